@@ -1,0 +1,127 @@
+// Finds the items of a stored setting in its source text. The overlay is stored in compiled form only, so what was
+// selected is read from the properties that `set` leaves in /chosen/hwknobs:
+//
+//     item0 = "Activate  big_off(12) Turn the big cores off";
+//     item1 = "Activate  lcm_settings(7)[arg=3] switch lcm settings";
+//
+// The patterns are narrow on purpose: a numeric argument is digits only (a negative one reads as 0), a string argument
+// is letters, "_" and "-" only (another one reads as empty).
+#include "hwknobs_base/diagnostics.h"
+#include "hwknobs_img/partimage.h"
+
+#include <regex.h>
+
+#include <array>
+#include <cstdlib>
+#include <cstring>
+#include <optional>
+
+namespace {
+
+constexpr const char* function_name = "save_hwknobs_effect_status";
+
+// Longer property values are not taken.
+constexpr std::size_t value_size_limit = 4096;
+
+// A pattern with one capture.
+class pattern {
+public:
+    // `label` begins the message with which the process ends when the pattern does not compile.
+    pattern(const char* text, const char* label) {
+        const int result = regcomp(&regex_, text, REG_EXTENDED);
+        if (result == 0) return;
+        std::array<char, 128> reason{};
+        regerror(result, &regex_, reason.data(), reason.size());
+        error("%s: %s compile failed: %s\n", function_name, label, reason.data());
+    }
+    ~pattern() { regfree(&regex_); }
+    pattern(const pattern&) = delete;
+    pattern& operator=(const pattern&) = delete;
+
+    struct match {
+        std::string_view capture;
+        std::size_t end;  ///< where the whole match ends
+    };
+    std::optional<match> find(const char* text) const {
+        std::array<regmatch_t, 2> groups{};
+        if (regexec(&regex_, text, groups.size(), groups.data(), 0) != 0) return std::nullopt;
+        const auto start = static_cast<std::size_t>(groups[1].rm_so);
+        return match{{text + start, static_cast<std::size_t>(groups[1].rm_eo) - start},
+                     static_cast<std::size_t>(groups[0].rm_eo)};
+    }
+    // The capture, or the empty text without a match.
+    std::string capture(const char* text) const {
+        const auto found = find(text);
+        return found ? std::string(found->capture) : std::string();
+    }
+
+private:
+    regex_t regex_{};
+};
+
+class item_reader {
+public:
+    std::optional<pattern::match> next_line(const char* text) const { return line_.find(text); }
+
+    // Nothing, after a warning, when the platform has no such id.
+    std::optional<config_item> read(const hwknobs_plat* plat, const std::string& value) const {
+        const auto id = static_cast<unsigned int>(std::strtoul(index_.capture(value.c_str()).c_str(), nullptr, 10));
+        const hwknobs_config* const config = get_config_by_id(plat, id);
+        if (config == nullptr) {
+            std::puts("warn: unknown option id, skip");
+            return std::nullopt;
+        }
+        config_item item(config, id);
+        read_argument(item, value.c_str());
+        return item;
+    }
+
+private:
+    void read_argument(config_item& item, const char* value) const {
+        switch (item.arg_kind) {
+            case config_arg_kind::none: return;
+            case config_arg_kind::int32:
+                item.arg = static_cast<std::int32_t>(std::strtol(numeric_.capture(value).c_str(), nullptr, 10));
+                return;
+            case config_arg_kind::uint32:
+                store_unsigned(item,
+                               static_cast<std::uint32_t>(std::strtoul(numeric_.capture(value).c_str(), nullptr, 10)));
+                return;
+            case config_arg_kind::string:
+                if (!item.arg_set(string_.capture(value).c_str()))
+                    error("invalid argument, expect %s", item.arg_type_get_string().c_str());
+                return;
+        }
+    }
+
+    static void store_unsigned(config_item& item, std::uint32_t value) {
+        if (item.arg_kind != config_arg_kind::uint32)
+            error("nivalid argument, expect %s", item.arg_type_get_string().c_str());
+        item.arg = value;
+    }
+
+    pattern line_{R"re(item[^=]* = "([^"]*)")re", "Regex"};
+    pattern command_{R"(Activate  ([a-zA-Z0-9_-]*)\()", "regex_command"};
+    pattern index_{R"(\(([0-9]*)\))", "regex_index"};
+    pattern numeric_{R"(\[arg=([0-9]*)\])", "regex_arg"};
+    pattern string_{R"(\[str=([a-zA-Z_-]*)\])", "regex_str"};
+};
+
+}  // namespace
+
+void save_hwknobs_effect_status(const char* plat, const char* dts, std::vector<config_item>& items) {
+    const item_reader reader;
+    items.clear();
+    const hwknobs_plat* const platform = hwknobs_get_plat(plat);
+    const char* const end = dts + std::strlen(dts);
+    for (const char* position = dts; position < end;) {
+        const auto line = reader.next_line(position);
+        if (!line) return;
+        // The position advances behind items that were taken only: a line that cannot be taken is met for ever.
+        if (line->capture.size() >= value_size_limit) continue;
+        auto item = reader.read(platform, std::string(line->capture));
+        if (!item) continue;
+        items.push_back(std::move(*item));
+        position += line->end;
+    }
+}

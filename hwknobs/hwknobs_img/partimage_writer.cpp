@@ -1,0 +1,100 @@
+#include "hwknobs_img/partimage_writer.h"
+
+#include "hwknobs_base/diagnostics.h"
+#include "hwknobs_base/unique_fd.h"
+#include "hwknobs_img/dt_compiler.h"
+
+#include <fcntl.h>
+
+#include <algorithm>
+#include <cerrno>
+#include <cstring>
+#include <memory>
+#include <string_view>
+#include <vector>
+
+namespace {
+
+constexpr std::size_t clear_chunk_size = 16384;
+
+// Copies as much as fits with a NUL behind it into a field that is zero.
+template <std::size_t Size>
+void copy_text(std::array<char, Size>& field, std::string_view text) {
+    std::ranges::copy(text.substr(0, Size - 1), field.begin());
+}
+
+section_header make_header(std::string_view name, std::size_t data_size) {
+    section_header header{};
+    header.magic = section_magic;
+    header.data_size = static_cast<std::uint32_t>(data_size);
+    copy_text(header.name, name);
+    header.reserved_a = 0xFFFFFFFF;
+    header.reserved_b = 0xFFFFFFFF;
+    header.ext_magic = section_ext_magic;
+    header.header_size = sizeof(section_header);
+    header.header_version = 1;
+    header.alignment = section_alignment;
+    return header;
+}
+
+// Up to the end of the blob, or of the status area where there is one.
+std::size_t image_size(std::size_t blob_size, bool boot_failure_recovery) {
+    if (boot_failure_recovery) return sizeof(partition_image);
+    const std::size_t aligned_blob = (blob_size + section_alignment - 1) / section_alignment * section_alignment;
+    return offsetof(partition_image, blob) + aligned_blob;
+}
+
+// One write() that has to take everything: what the bootloader finds is never put together from several.
+void write_whole(const unique_fd& file, const char* path, const void* data, std::size_t size) {
+    const ssize_t n = write(file.get(), data, size);
+    if (n == static_cast<ssize_t>(size)) return;
+    if (n >= 0) errno = ENOSPC;  // a short write sets no errno; it means the end of the device
+    error("Cannot write file %s (%s)", path, std::strerror(errno));
+}
+
+}  // namespace
+
+void hwknobs_generate_partimage(const char* partition, const char* name, const char* plat, const plenv_map& plenv,
+                                const char* dts, bool boot_failure_recovery) {
+    const auto image = std::make_unique<partition_image>();
+    image->plenv = hwknobs_plenv_build(plenv);  // before the clearing: what cannot be stored costs nothing
+    hwknobs_partimage_clear(hwknobs_default_partition, CLEAR_ALL);
+
+    copy_text(image->info.name, name);
+    copy_text(image->info.platform, plat);
+    image->info.boot_failure_recovery = boot_failure_recovery ? 1 : 0;
+    const std::size_t blob_size = dts != nullptr ? hwknobs_dt_to_blob(dts, image->blob) : 0;
+    image->settings_header = make_header("hwknobs", settings_data_size);
+    image->dt_header = make_header("hwknobs-dt", blob_size);
+    if (boot_failure_recovery) image->status_header = make_header("hwknobs-status", sizeof(image->status));
+
+    if (partition == nullptr) error("No boot para available");
+    const unique_fd file(open(partition, O_RDWR | O_CREAT | O_SYNC | O_CLOEXEC, 0600));
+    if (!file) error("Cannot open output file %s", partition);
+    write_whole(file, partition, image.get(), image_size(blob_size, boot_failure_recovery));
+}
+
+void hwknobs_partimage_clear(const char* partition, int mode) {
+    constexpr const char* function_name = "hwknobs_partimage_clear";
+    debug("%s: filename %s action %d", function_name, partition, mode);
+    if (partition == nullptr) error("No boot para available");
+    const unique_fd file(open(partition, O_RDWR | O_SYNC | O_CLOEXEC));
+    if (!file) error("Cannot open output file %s", partition);
+
+    const long size = lseek(file.get(), 0, SEEK_END);
+    if (size < partition_size_min) error("Partition size too small %ld", size);
+    if (size > partition_size_max) error("%s: partition size too large", function_name);
+    if (mode < CLEAR_ALL || mode > CLEAR_DDR_DATA) error("Unsupport argument %d", mode);
+    const long start = mode == CLEAR_DDR_DATA ? settings_area_size : 0;
+    const long end = mode == CLEAR_SETTINGS ? settings_area_size : size;
+    debug("start offset %ld end offset %ld", start, end);
+
+    if (lseek(file.get(), start, SEEK_SET) == -1)
+        error("%s: lseek to start failed %s", function_name, std::strerror(errno));
+    const std::vector<char> zeros(clear_chunk_size);
+    for (long position = start; position < end;) {
+        const std::size_t chunk = std::min(zeros.size(), static_cast<std::size_t>(end - position));
+        write_whole(file, partition, zeros.data(), chunk);
+        position += static_cast<long>(chunk);
+    }
+}

@@ -1,0 +1,17 @@
+#include "hwknobs_libxml/xml_document.h"
+
+#include <libxml/xmlerror.h>
+#include <libxml/xmlversion.h>
+
+#include <cstdio>
+
+xml_document parse_xml(const char* buffer, int size) {
+    LIBXML_TEST_VERSION
+    xmlSetGenericErrorFunc(stdout, nullptr);
+    // No options: entities are not substituted and nothing but the buffer is read.
+    return xml_document(xmlReadMemory(buffer, size, "noname.xml", nullptr, 0));
+}
+
+bool is_element(const xmlNode* node, std::string_view name) {
+    return node->type == XML_ELEMENT_NODE && node->name != nullptr && plain_text(node->name) == name;
+}

@@ -1,0 +1,164 @@
+// The commands that show what can be selected: list, list-group and plat-list.
+#include "hwknobs_base/diagnostics.h"
+#include "hwknobs_main/commands.h"
+#include "hwknobs_main/options.h"
+#include "hwknobs_plat/platform.h"
+
+#include <algorithm>
+#include <array>
+#include <cstdio>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace {
+
+using u64 = std::uint64_t;
+
+constexpr std::uint32_t version_with_groups = 2;
+
+struct group_name {
+    std::uint32_t code;
+    const char* name;
+};
+
+constexpr std::array<group_name, hwknobs_group_count> group_names = {{
+    {UNKNOWN, "UNKNOWN"},
+    {CPU, "CPU"},
+    {KERNEL, "KERNEL"},
+    {DRAM, "DRAM"},
+    {DISPLAY, "DISPLAY"},
+    {GPU, "GPU"},
+    {PMIC, "PMIC"},
+    {TOOL, "TOOL"},
+    {EMI, "EMI"},
+    {LPM, "LPM"},
+    {HYP, "HYP"},
+    {DPSW, "DPSW"},
+    {VCORE, "VCORE"},
+    {HRT, "HRT"},
+}};
+
+constexpr u64 group_bit(std::uint32_t code) { return u64{1} << code; }
+
+const char* get_hwknobs_group_name(std::uint32_t code) {
+    return code < group_names.size() ? group_names[code].name : "";
+}
+
+// The bit of a group that can be asked for; an unknown name is complained of and gives bit 0.
+u64 parse_group(std::string_view name) {
+    for (const group_name& group : group_names)
+        if (group.code != UNKNOWN && name == group.name) return group_bit(group.code);
+    std::printf("Unknown group: %s\n", std::string(name).c_str());
+    return group_bit(UNKNOWN);
+}
+
+u64 parse_group_options(int argc, char** argv) {
+    // The options of `clear` are accepted too, and have no effect.
+    static constexpr option long_options[] = {
+        {"group", required_argument, nullptr, 'g'},
+        {"all", no_argument, nullptr, 0},
+        {"hwknobs-data", no_argument, nullptr, 0},
+        {"ddr-data", no_argument, nullptr, 0},
+        {nullptr, 0, nullptr, 0},
+    };
+    u64 mask = 0;
+    for (;;) {
+        const int result = getopt_long(argc, argv, "g:", long_options, nullptr);
+        if (result == -1) return mask;
+        if (result == 'g') mask |= parse_group(optarg);
+    }
+}
+
+void print_version_0(const hwknobs_plat& plat) {
+    const auto configs = hwknobs_configs(plat);
+    std::printf("XPR config list (arch %s) num:%d\n", plat.name, static_cast<int>(configs.size()));
+    int number = 0;
+    for (const hwknobs_config& config : configs)
+        std::printf("%3d %s %s\n", ++number, config.desc,
+                    config.takes_argument() ? " [require an argument for customization]" : "");
+}
+
+// " CPU  GPU " for the groups of the mask.
+std::array<char, 128> group_text(u64 mask) {
+    std::array<char, 128> text{};
+    std::size_t used = 0;
+    for (std::uint32_t code = 0; code < 16; ++code) {
+        if ((mask & group_bit(code)) == 0) continue;
+        const int length = std::snprintf(text.data() + used, text.size() - used, " %s ", get_hwknobs_group_name(code));
+        if (length <= 0)
+            __error("sprintf(buf + strlen(buf), \" %s \", get_hwknobs_group_name(i)) > 0", "hwknobs/hwknobs_main", 103,
+                    "void __group_msg(char *, const char **, u64)");
+        used += static_cast<std::size_t>(length);
+    }
+    return text;
+}
+
+std::array<char, 256> list_summary(std::size_t config_num, u64 mask) {
+    constexpr const char* function = "void __print_list(const struct hwknobs_plat *, u64)";
+    std::array<char, 256> msg{};
+    if (mask == 0) {
+        if (std::snprintf(msg.data(), msg.size(), "num:%u", static_cast<unsigned int>(config_num)) <= 0)
+            __error("snprintf(msg, sizeof(msg), \"num:%u\", config_num) > 0", "hwknobs/hwknobs_main", 134, function);
+    } else if (std::snprintf(msg.data(), msg.size(), "group selected:(%s)", group_text(mask).data()) <= 0) {
+        __error("snprintf(msg, sizeof(msg), \"group selected:(%s)\", grp) > 0", "hwknobs/hwknobs_main", 131, function);
+    }
+    return msg;
+}
+
+// Tables are not kept in the order of ids; listings are.
+std::vector<const hwknobs_config*> sorted_by_id(std::span<const hwknobs_config> configs) {
+    std::vector<const hwknobs_config*> sorted;
+    sorted.reserve(configs.size());
+    for (const hwknobs_config& config : configs) sorted.push_back(&config);
+    std::ranges::sort(sorted, [](const hwknobs_config* a, const hwknobs_config* b) {
+        const int ids[] = {static_cast<int>(a->id), static_cast<int>(b->id)};
+        return cmp(&ids[0], &ids[1]) < 0;
+    });
+    return sorted;
+}
+
+// NOLINTNEXTLINE(bugprone-reserved-identifier)
+void __print_list(const hwknobs_plat* plat, u64 mask) {
+    const auto configs = hwknobs_configs(*plat);
+    std::printf("XPR config list V2 (arch %s) %s\n", plat->name, list_summary(configs.size(), mask).data());
+    std::printf("%3s %-72s %-40s %-12s %-8s\n", "ID", "DESC", "NAME", "ARG", "GROUP");
+    std::puts(std::string(144, '-').c_str());
+    for (const hwknobs_config* const config : sorted_by_id(configs)) {
+        if (mask != 0 && (mask & group_bit(config->group)) == 0) continue;
+        std::printf("%3d %-72s %-40s %-12s %-8s\n", static_cast<int>(config->id), config->desc, config->name,
+                    config->takes_argument() ? "required" : "", get_hwknobs_group_name(config->group));
+    }
+}
+
+}  // namespace
+
+int run_list_command(const global_options& global, int argc, char** argv) {
+    const hwknobs_plat* const plat = hwknobs_get_plat(global.plat);
+    if (plat->version != version_with_groups) {
+        print_version_0(*plat);
+        return 0;
+    }
+    const u64 mask = parse_group_options(argc, argv);
+    if ((mask & group_bit(UNKNOWN)) == 0) __print_list(plat, mask);
+    return 0;
+}
+
+int run_list_group_command(const global_options& global, int /*argc*/, char** /*argv*/) {
+    const hwknobs_plat* const plat = hwknobs_get_plat(global.plat);
+    if (plat->version != version_with_groups) {
+        std::puts("This platfrom does not support groups.");
+        return 0;
+    }
+    std::printf("XPR config list group (arch %s) \n", plat->name);
+    std::printf("%3s %8s\n", "GID", "NAME");
+    std::puts("----------------");
+    for (const group_name& group : group_names)
+        if (group.code != UNKNOWN) std::printf("%3d %8s\n", static_cast<int>(group.code), group.name);
+    return 0;
+}
+
+int run_plat_list_command(const global_options& /*global*/, int /*argc*/, char** /*argv*/) {
+    hwknobs_plat_list();
+    return 0;
+}

@@ -1,0 +1,250 @@
+// The rules that the rows of a table keep, checked by the compiler with the tool's own template code. Why each of them
+// is there is told in docs/catalogue.md.
+#pragma once
+
+#include "hwknobs_plat/config_template.h"
+#include "hwknobs_plat/platform.h"
+#include "hwknobs_plat/plenv_text.h"
+
+#include <array>
+#include <span>
+#include <string_view>
+
+namespace catalogue {
+
+enum class rule {
+    none,
+    row_has_a_description,
+    desc_fits_72_columns,
+    desc_holds_plain_text_only,
+    desc_reads_like_no_argument_or_index,
+    name_is_lower_case_with_underscores,
+    name_fits_40_columns,
+    name_is_unique,
+    id_is_from_1_to_1023,
+    id_is_unique,
+    group_is_known,
+    key_and_value_go_together,
+    row_sets_something,
+    argument_row_has_exactly_one_template,
+    argument_row_has_a_conversion,
+    row_without_argument_has_no_conversion,
+    template_is_valid,
+    blank_follows_bare_string_conversion,
+    plenv_key_is_read_back,
+    plenv_value_is_read_back,
+    fragment_has_no_line_of_an_item,
+    fragment_fits_into_cdata,
+    end_row_is_last,
+    plenv_of_all_rows_fits_the_block,
+};
+
+/// The first broken rule of a table and its row, counted from 0.
+struct verdict {
+    int row = 0;
+    rule broken = rule::none;
+};
+
+constexpr std::string_view text_of(const char* text) { return text != nullptr ? std::string_view(text) : ""; }
+
+constexpr bool contains(std::string_view text, std::string_view part) {
+    return text.find(part) != std::string_view::npos;
+}
+
+constexpr bool is_digit(char c) { return c >= '0' && c <= '9'; }
+
+// What check_template() says, with what the rules want to know besides.
+struct template_facts {
+    template_check check;
+    std::size_t longest_value = 0;  ///< of the allowed values
+    bool has_values = false;
+};
+
+constexpr template_facts inspect_template(std::string_view text) {
+    template_facts facts;
+    std::array<std::string_view, 32> values{};
+    std::size_t count = 0;
+    facts.check = check_template(text, [&](std::string_view value) {
+        for (std::size_t i = 0; i < count; ++i)
+            if (values[i] == value) return false;
+        values[count++] = value;
+        if (value.size() > facts.longest_value) facts.longest_value = value.size();
+        return true;
+    });
+    facts.has_values = count != 0;
+    return facts;
+}
+
+constexpr rule check_description(std::string_view desc) {
+    if (desc.empty()) return rule::row_has_a_description;
+    if (desc.size() > 72) return rule::desc_fits_72_columns;
+    for (const char c : desc)
+        if (c < ' ' || c > '~' || c == '"' || c == '\\') return rule::desc_holds_plain_text_only;
+    if (contains(desc, "--")) return rule::desc_holds_plain_text_only;
+    if (contains(desc, "[arg=") || contains(desc, "[str=")) return rule::desc_reads_like_no_argument_or_index;
+    for (std::size_t open = desc.find('('); open != std::string_view::npos; open = desc.find('(', open + 1)) {
+        std::size_t end = open + 1;
+        while (end < desc.size() && is_digit(desc[end])) ++end;
+        if (end < desc.size() && desc[end] == ')') return rule::desc_reads_like_no_argument_or_index;
+    }
+    return rule::none;
+}
+
+// The largest number that a conversion prints has 10 digits, or 8 in hexadecimal.
+constexpr std::size_t longest_number(char letter) { return letter == 'x' ? 8 : 10; }
+
+// The largest size of a rendered value. A free string counts as empty: only it can make a selection too large, which
+// is refused when it is written.
+constexpr std::size_t longest_value(std::string_view value) {
+    std::size_t size = 0;
+    for (std::size_t i = 0; i < value.size(); ++i) {
+        if (value[i] != '%') {
+            ++size;
+            continue;
+        }
+        const char letter = value[++i];
+        if (letter == '%') ++size;
+        else if (letter != 's') size += longest_number(letter);
+        else if (i + 1 < value.size() && value[i + 1] != '[') ++i;
+        else if (i + 1 < value.size()) {
+            size += inspect_template(value.substr(i - 1)).longest_value;
+            i = value.find(']', i);
+        }
+    }
+    return size;
+}
+
+// Whatever the argument, the value keeps to the characters that are read back: the text around the conversions does,
+// numbers do, and arguments are letters, digits, ",", "-" and "_".
+constexpr bool value_is_read_back(std::string_view value) {
+    bool in_list = false;
+    for (std::size_t i = 0; i < value.size(); ++i) {
+        if (in_list) {
+            in_list = value[i] != ']';
+        } else if (value[i] == '%') {
+            if (value[++i] == '%') return false;
+            in_list = i + 1 < value.size() && value[i] == 's' && value[i + 1] == '[';
+        } else if (!is_plenv_value_char(value[i])) {
+            return false;
+        }
+    }
+    return true;
+}
+
+constexpr rule check_plenv(const hwknobs_config::plenv_pair& pair) {
+    if ((pair.key == nullptr) != (pair.value == nullptr)) return rule::key_and_value_go_together;
+    if (pair.key == nullptr) return rule::none;
+    const std::string_view key = pair.key;
+    if (key.empty()) return rule::plenv_key_is_read_back;
+    for (const char c : key)
+        if (!is_plenv_key_char(c)) return rule::plenv_key_is_read_back;
+    return value_is_read_back(pair.value) ? rule::none : rule::plenv_value_is_read_back;
+}
+
+// In a fragment a swallowed byte would be a quote sooner or later: a blank has to stand there to be swallowed.
+constexpr bool blank_follows_bare_strings(std::string_view text) {
+    for (std::size_t at = text.find("%s"); at != std::string_view::npos; at = text.find("%s", at + 2))
+        if (at + 2 < text.size() && text[at + 2] != '[' && text[at + 2] != ' ') return false;
+    return true;
+}
+
+constexpr bool takes_nothing(std::string_view text) {
+    const template_check check = inspect_template(text).check;
+    return check.fault == template_fault::none && check.kind == config_arg_kind::none;
+}
+
+constexpr rule check_templates(const hwknobs_config& row) {
+    const char* const value = row.pl_setting.value;
+    const char* const fragment = row.dt_fragment;
+    if (!row.takes_argument())
+        return takes_nothing(text_of(value)) && takes_nothing(text_of(fragment))
+                   ? rule::none
+                   : rule::row_without_argument_has_no_conversion;
+    if ((value != nullptr) == (fragment != nullptr)) return rule::argument_row_has_exactly_one_template;
+    const std::string_view text = value != nullptr ? value : fragment;
+    const template_check check = inspect_template(text).check;
+    if (check.fault != template_fault::none) return rule::template_is_valid;
+    if (check.kind == config_arg_kind::none) return rule::argument_row_has_a_conversion;
+    if (!blank_follows_bare_strings(text)) return rule::blank_follows_bare_string_conversion;
+    return rule::none;
+}
+
+constexpr rule first_broken(std::initializer_list<rule> rules) {
+    for (const rule broken : rules)
+        if (broken != rule::none) return broken;
+    return rule::none;
+}
+
+constexpr rule check_setting(const hwknobs_config& row) {
+    if (row.pl_setting.key == nullptr && row.dt_fragment == nullptr) return rule::row_sets_something;
+    const std::string_view fragment = text_of(row.dt_fragment);
+    if (contains(fragment, "item")) return rule::fragment_has_no_line_of_an_item;
+    if (contains(fragment, "]]>")) return rule::fragment_fits_into_cdata;
+    return rule::none;
+}
+
+constexpr rule check_identity(const hwknobs_config& row) {
+    const std::string_view name = text_of(row.name);
+    if (name.empty()) return rule::name_is_lower_case_with_underscores;
+    if (name.size() > 40) return rule::name_fits_40_columns;
+    for (const char c : name)
+        if (!(c >= 'a' && c <= 'z') && !is_digit(c) && c != '_') return rule::name_is_lower_case_with_underscores;
+    if (row.id < 1 || row.id > 1023) return rule::id_is_from_1_to_1023;
+    return row.group > UNKNOWN && row.group < hwknobs_group_count ? rule::none : rule::group_is_known;
+}
+
+// The fourth row of the test platform takes an argument in both halves; the tool refuses to select it, and tests want
+// to see that.
+constexpr bool is_the_exception(const hwknobs_config& row) {
+    return text_of(row.desc) == "Dummy 4 OFF" && text_of(row.pl_setting.key) == "GG";
+}
+
+constexpr rule check_row(const hwknobs_config& row) {
+    if (is_the_exception(row)) return rule::none;
+    return first_broken(
+        {check_description(text_of(row.desc)), check_setting(row), check_templates(row), check_plenv(row.pl_setting)});
+}
+
+constexpr verdict check_version_0(std::span<const hwknobs_config> rows) {
+    for (std::size_t i = 0; i + 1 < rows.size(); ++i)
+        if (const rule broken = check_row(rows[i]); broken != rule::none) return {static_cast<int>(i), broken};
+    const bool ended = !rows.empty() && rows.back().desc == nullptr;
+    return {static_cast<int>(rows.size()) - 1, ended ? rule::none : rule::end_row_is_last};
+}
+
+// Each key once, with its longest value: the most that any selection can take.
+constexpr std::size_t plenv_size_of_all(std::span<const hwknobs_config> rows) {
+    std::array<std::string_view, 64> keys{};
+    std::array<std::size_t, 64> sizes{};
+    std::size_t count = 0;
+    for (const hwknobs_config& row : rows) {
+        if (row.pl_setting.key == nullptr) continue;
+        const std::string_view key = row.pl_setting.key;
+        std::size_t i = 0;
+        while (i < count && keys[i] != key) ++i;
+        if (i == count) keys[count++] = key;
+        const std::size_t size = plenv_entry_size(key.size(), longest_value(row.pl_setting.value));
+        if (size > sizes[i]) sizes[i] = size;
+    }
+    std::size_t total = 0;
+    for (const std::size_t size : sizes) total += size;
+    return total;
+}
+
+constexpr verdict check_version_2(std::span<const hwknobs_config> rows) {
+    std::array<bool, 1024> seen_ids{};
+    for (std::size_t i = 0; i < rows.size(); ++i) {
+        const auto at = static_cast<int>(i);
+        if (const rule broken = first_broken({check_row(rows[i]), check_identity(rows[i])}); broken != rule::none)
+            return {at, broken};
+        if (seen_ids[rows[i].id]) return {at, rule::id_is_unique};
+        seen_ids[rows[i].id] = true;
+        for (std::size_t k = 0; k < i; ++k)
+            if (std::string_view(rows[k].name) == rows[i].name) return {at, rule::name_is_unique};
+    }
+    if (plenv_size_of_all(rows) > plenv_capacity)
+        return {static_cast<int>(rows.size()) - 1, rule::plenv_of_all_rows_fits_the_block};
+    return {};
+}
+
+}  // namespace catalogue
