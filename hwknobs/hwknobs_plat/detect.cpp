@@ -32,7 +32,8 @@ std::optional<std::uint16_t> read_hw_code_file() {
         return std::nullopt;
     }
     unsigned short code = 0;
-    const bool converted = std::fscanf(file, "%hx", &code) == 1;
+    // The kernel writes one number; of a larger one the low 16 bits count.
+    const bool converted = std::fscanf(file, "%hx", &code) == 1;  // NOLINT(cert-err34-c)
     if (std::fclose(file) == EOF)
         __error("fclose(fp) != EOF", "hwknobs/hwknobs_plat", 78, "int file_read_short(const char *, short *)");
     if (!converted) return std::nullopt;

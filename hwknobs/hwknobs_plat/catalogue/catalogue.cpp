@@ -2,7 +2,7 @@
 
 namespace {
 
-#define HWKNOBS_POINT_AT_PLATFORM(name, code) &name,
+#define HWKNOBS_POINT_AT_PLATFORM(name, code) &(name),
 constexpr const hwknobs_plat* platforms[] = {HWKNOBS_PLATFORMS(HWKNOBS_POINT_AT_PLATFORM)};
 #undef HWKNOBS_POINT_AT_PLATFORM
 

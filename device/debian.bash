@@ -1,0 +1,74 @@
+# What build-static and boot-test share: their places, and what they take from Debian. Sourced.
+# shellcheck shell=bash
+
+top=$(cd -- "$(dirname -- "${BASH_SOURCE[0]}")/.." && pwd)
+# All that is downloaded, and what takes long to build; remove it to begin anew.
+# shellcheck disable=SC2034 # used by those who source this
+cache=$top/.cache/device
+
+fail() {
+  printf '%s: %s\n' "${0##*/}" "$1" >&2
+  exit 1
+}
+
+# Installs those of the packages that the machine lacks.
+need_packages() {
+  local name missing=() as_root=()
+  for name; do
+    if [[ $(dpkg-query -W -f '${db:Status-Status}' -- "$name" 2>&1) != installed ]]; then
+      missing+=("$name")
+    fi
+  done
+  ((${#missing[@]})) || return 0
+  printf '%s: installing %s\n' "${0##*/}" "${missing[*]}"
+  if ((EUID)); then as_root=(sudo); fi
+  "${as_root[@]}" apt-get update -qq
+  "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive \
+    apt-get install -y -qq --no-install-recommends "${missing[@]}" </dev/null >/dev/null
+}
+
+# apt-get or apt-cache with package lists and settings of their own in FOLDER, for
+# sources (TYPE deb-src) or another architecture (TYPE deb): the machine's own are left
+# as they are. Where packages come from is taken from the machine's.
+private_apt() {
+  local folder=$1 type=$2 arch=$3
+  shift 3
+  if [[ ! -e $folder/updated ]]; then
+    mkdir -p -- "$folder"/{sources,lists/partial,archives/partial}
+    : >"$folder/status"
+    write_sources "$type" "$arch" >"$folder/sources/debian.list"
+    run_apt apt-get -qq update || fail 'cannot get the lists of packages'
+    : >"$folder/updated"
+  fi
+  run_apt "$@"
+}
+
+run_apt() {
+  local program=$1
+  shift
+  "$program" -o APT::Architecture="$arch" -o APT::Architectures::="$arch" \
+    -o APT::Sandbox::User=root -o APT::Update::Error-Mode=any \
+    -o Dir::Etc::SourceList=/dev/null -o Dir::Etc::SourceParts="$folder/sources" \
+    -o Dir::State="$folder" -o Dir::State::Lists="$folder/lists" \
+    -o Dir::State::Status="$folder/status" -o Dir::Cache="$folder" "$@"
+}
+
+# The archives of this Debian that the machine is set up for. Their origin is not known
+# where the machine's own lists were never fetched.
+write_sources() {
+  local codename uri release component origin
+  # shellcheck source=/dev/null
+  codename=$(. /etc/os-release && printf %s "${VERSION_CODENAME-}")
+  [[ -n $codename ]] || fail 'cannot tell the release of Debian'
+  # shellcheck disable=SC2016 # apt's variables
+  apt-get indextargets --format '$(REPO_URI) $(RELEASE) $(COMPONENT) $(ORIGIN)' \
+    'Created-By: Packages' | sort -u |
+    while read -r uri release component origin; do
+      case $release:$origin in
+        "$codename"*:Debian | "$codename"*:'$(ORIGIN)')
+          printf '%s [arch=%s signed-by=%s] %s %s %s\n' "$1" "$2" \
+            /usr/share/keyrings/debian-archive-keyring.gpg "$uri" "$release" "$component"
+          ;;
+      esac
+    done
+}

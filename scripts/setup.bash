@@ -1,0 +1,30 @@
+# What the scripts of this repository need from Debian 12. Sourced.
+# shellcheck shell=bash disable=SC2034 # used by those who source this
+
+build_packages=(g++ cmake ninja-build libxml2-dev libfmt-dev)
+device_packages=(bubblewrap device-tree-compiler)
+test_packages=(bats libgtest-dev libgmock-dev strace shellcheck clang clang-format clang-tidy)
+
+# Installs those of the packages that the machine lacks, and says so.
+need_packages() {
+    local name missing=() as_root=()
+    for name; do
+        if [[ $(dpkg-query -W -f '${db:Status-Status}' -- "$name" 2>&1) != installed ]]; then missing+=("$name"); fi
+    done
+    ((${#missing[@]})) || return 0
+    echo "Installing ${missing[*]}"
+    if ((EUID)); then as_root=(sudo); fi
+    "${as_root[@]}" apt-get update -qq
+    "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive \
+        apt-get install -y -qq --no-install-recommends "${missing[@]}" </dev/null >/dev/null
+}
+
+# build PRESET [TARGET...]: configures and builds in build/PRESET, quietly unless it fails.
+build() {
+    local log=build/$1.log
+    mkdir -p build
+    if ! { cmake --preset "$1" && cmake --build "build/$1" ${2:+--target "${@:2}"}; } >"$log" 2>&1; then
+        cat "$log" >&2
+        return 1
+    fi
+}

@@ -1,0 +1,94 @@
+#!/usr/bin/env bats
+# The command line: options, platforms and listings.
+load device
+
+@test "usage and unknown words" {
+    local usage words said
+    usage=$(<"$BATS_TEST_DIRNAME/data/usage.txt")
+    expect 1 "$usage" hwknobs --verbose --plat px0000
+    expect 1 "$usage" hwknobs --help plat-list
+    while IFS='|' read -r words said; do
+        # shellcheck disable=SC2086
+        expect 1 "$said" hwknobs $words
+    done <<'EOF2'
+List|ERROR: Unknown command 'List'
+--bad list|hwknobs: unrecognized option '--bad'
+--plat|hwknobs: option '--plat' requires an argument
+--plat=PX0000 list|ERROR: Unsupport platform PX0000
+clear --bad|clear: unrecognized option '--bad'
+status --bad|status: unrecognized option '--bad'
+EOF2
+}
+
+@test "detection of the platform" {
+    local unknown="ERROR: Can't determine platform, fix it first or specify the platform via --plat"
+    local chosen=$DEV/proc/device-tree/chosen code
+    for code in 0 10000 0x0; do # only 16 bits count
+        echo "$code" >"$DEV/proc/chip/hw_code"
+        run -0 hwknobs list
+        [[ ${lines[0]} == "XPR config list (arch px0000) num:7" ]]
+    done
+    printf '\0\0\0\0\x10\x63\0\0%12s' '' >"$chosen/atag,chipid"
+    for code in ffff zz ''; do # the file decides even when it names no platform
+        echo "$code" >"$DEV/proc/chip/hw_code"
+        expect 1 "$unknown" hwknobs list
+    done
+    rm "$DEV/proc/chip/hw_code"
+    expect 1 "$unknown" hwknobs list
+    printf '\0\0\0\0\x10\x62\x01\0%16s' '' >"$chosen/atag,chipid" # longer than 20 bytes
+    run -0 hwknobs list-group
+    [[ ${lines[0]} == "XPR config list group (arch px6210) " ]]
+    printf '\0\0\0\0\x10\x62\0\0%4s' '' >"$chosen/atag,chipid"
+    expect 1 "$unknown" hwknobs list
+    rm "$chosen/atag,chipid"
+    expect 1 "Fail to open /proc/device-tree/chosen/atag,chipid(2), No such file or directory
+$unknown" hwknobs list
+}
+
+@test "verbose tells how the platform was found" {
+    echo 1206 >"$DEV/proc/chip/hw_code"
+    run -0 hwknobs --verbose list
+    [[ ${output%%XPR*} == "DEBUG: platform query hw_code 1206
+DEBUG: plat px0000 hw_code 0
+DEBUG: plat px1104 hw_code 1104
+DEBUG: plat px1206 hw_code 1206
+" ]]
+}
+
+@test "listing a platform without ids" {
+    expect 0 "XPR config list (arch px0000) num:7
+  1 Dummy 1 OFF 
+  2 Dummy 2 OFF 
+  3 Dummy 3 OFF 
+  4 Dummy 4 OFF  [require an argument for customization]
+  5 Test level low 
+  6 Test level mid 
+  7 Test level high " hwknobs --plat=px0000 list --group=NONE
+    expect 0 "This platfrom does not support groups." hwknobs --plat=px0000 list-group
+}
+
+@test "listing a platform with groups" {
+    expect 0 "XPR config list group (arch px8314) 
+GID     NAME
+----------------
+$(i=0; for name in CPU KERNEL DRAM DISPLAY GPU PMIC TOOL EMI LPM HYP DPSW VCORE HRT; do
+        printf '%3d %8s\n' $((++i)) "$name"; done)" hwknobs list-group
+    run -0 hwknobs list
+    [[ ${lines[0]} == "XPR config list V2 (arch px8314) num:312" && ${#lines[@]} == 315 ]]
+    [[ ${lines[1]} == "$(printf '%3s %-72s %-40s %-12s %-8s' ID DESC NAME ARG GROUP)" ]]
+    [[ ${lines[2]} == "$(printf '%0.s-' {1..144})" ]]
+    printf '%s\n' "${lines[@]:3}" | awk '{ print $1 }' | sort -nuc
+
+    run -0 hwknobs list word -g KERNEL --group GPU --all
+    [[ ${lines[0]} == "XPR config list V2 (arch px8314) group selected:( KERNEL  GPU )" ]]
+    [[ $(printf '%s\n' "${lines[@]:3}" | awk '{ print $NF }' | sort -u | xargs) == "GPU KERNEL" ]]
+
+    expect 0 "Unknown group: cpu
+Unknown group: UNKNOWN" hwknobs list --group=CPU --group=cpu --group=UNKNOWN
+}
+
+@test "output that cannot be written is no success, and a closed one harms no file" {
+    run -1 device run sh -c 'hwknobs plat-list >/dev/full'
+    run -0 device run sh -c 'hwknobs --verbose clear >&-'
+    is_blank
+}

@@ -1,0 +1,144 @@
+#!/usr/bin/env bats
+# result, auth-status, selftest and the XML commands.
+load device
+
+@test "result: the word, and its inverted exit status" {
+    expect 1 "hwknobs boot status = 0x0" hwknobs result
+    device reboot --status ffff
+    expect 1 "hwknobs boot status = 0xffff" hwknobs result
+    device reboot --status 89abcdef
+    expect 1 "hwknobs boot status = 0x89abcdef" hwknobs result
+    truncate -s $((0x20c03)) "$DEV/boot_para"
+    expect 0 "" hwknobs result
+    expect 0 "DEBUG: hwknobs_boot_status: boot para read hwknobs header failed, size mismatch 3" hwknobs --verbose result
+    expect 0 "" hwknobs --file=none result
+    expect 0 "DEBUG: hwknobs_boot_status: Cannot open file none" hwknobs --verbose --file=none result
+}
+
+@test "auth-status: every code" {
+    local pl lk stage code message
+    while IFS='|' read -r stage code message; do
+        pl="Unknown Status" lk="Unknown Status"
+        if [[ $stage == PL ]]; then pl=$message; else lk=$message; fi
+        device reboot --pl "$code" --lk "$code"
+        if [[ $code == HWKNOBS_FORCE_ENABLE ]]; then pl=$message lk=$message; fi
+        expect 1 "[PL]: $pl
+[LK]: $lk" hwknobs auth-status
+    done <"$BATS_TEST_DIRNAME/data/auth_codes.txt"
+    device reboot --pl PL_AUTH_FAIL
+    expect 1 "[PL]: SBOOT enable, Image authentication FAIL
+ERROR: hwknobs_sec_boot_status: Can't open atag,lk-sec entry" hwknobs auth-status
+    mkdir "$DEV/proc/device-tree/chosen/atag,lk-sec"
+    run -1 hwknobs auth-status
+    [[ ${lines[-1]} == "ERROR: hwknobs_sec_boot_status: Can't read atag,lk-sec entry" ]]
+    rm -r "$DEV/proc/device-tree/chosen"
+    expect 0 "hwknobs setting does not take effect" hwknobs auth-status
+}
+
+@test "selftest" {
+    local head="----------------- run self test ----------------------------
+prepare testcase: 2
+" rule=-----------------------------------------------------------
+    for code in 6108 1104; do
+        echo "$code" >"$DEV/proc/chip/hw_code"
+        expect 0 "${head}ok 1 Check hwknobs_plat by current platform.
+ok 2 Check hwknobs_config (v2) by current platform.
+$rule
+# Totals: pass:2 fail:0 skip:0 error:0" hwknobs --plat=px0000 selftest
+    done
+    echo 0 >"$DEV/proc/chip/hw_code"
+    expect 2 "${head}DEBUG: plat hw_code is 0.
+not ok 1 Check hwknobs_plat by current platform.
+
+ok 2 Check hwknobs_config (v2) by current platform.
+$rule
+# Totals: pass:1 fail:1 skip:0 error:0" bash -c \
+        "'$device_script' run '$DEV' hwknobs --verbose selftest | grep -v 'DEBUG: pla[^ ]* [qp]'; exit \${PIPESTATUS[0]}"
+    echo 8314 >"$DEV/proc/chip/hw_code" # a few of its names are too long
+    run -2 hwknobs --verbose selftest
+    [[ $output == *"Command length is greater than NAME_MAX_LEN: 31."*"not ok 2 "* ]]
+}
+
+@test "xmlconfig-show: the exact document" {
+    hwknobs xmlconfig-show lcm_settings a3 perf_stat_events scycles | no_id | diff "$BATS_TEST_DIRNAME/data/exported.xml" -
+    expect 1 "ERROR: No item" hwknobs xmlconfig-show
+    run -0 device run sh -c 'hwknobs --verbose xmlconfig-show kaslr_disable >log; cat log'
+    [[ $output == DEBUG*"<?xml"*"</hwknobs>" ]]
+}
+
+# The merged tree without what differs by design: the record of the run.
+booted_tree() {
+    device reboot >&2
+    dtc -I dtb -O dts "$DEV/merged.dtb" 2>/dev/null | sed '/^\t\thwknobs {/,/^\t\t};/d'
+    sort "$DEV/plenv"
+}
+
+@test "an exported selection boots like the one that was set" {
+    local selection=(kaslr_disable lcm_settings a-3 perf_stat_events scycles enable_gpu_acp)
+    hwknobs setname "${selection[@]}"
+    booted_tree >"$DEV/by_set"
+    hwknobs xmlconfig-show "${selection[@]}" >"$DEV/data/config.xml"
+    expect 0 "Config generate (config.xml)
+	name dummy platform px8314
+config generate ok" hwknobs xmlconfig-set config.xml ignored
+    booted_tree | diff "$DEV/by_set" -
+    hwknobs clear --all
+    run -0 device run sh -c 'hwknobs xmlconfig-set <config.xml'
+    [[ ${lines[0]} == "Config generate (stdin)" ]]
+    booted_tree | diff "$DEV/by_set" -
+    [[ $(bytes 0x22c 1) == 00 && $(fdtget "$DEV/merged.dtb" /chosen/hwknobs command) == xmlconfig-set ]]
+    run -1 hwknobs status
+    [[ ${lines[2]} == $'\t> command && date && platform && failure_recovery' ]]
+    echo -n true >"$DEV/proc/device-tree/chosen/hwknobs/boot_failure_recovery"
+    run -0 hwknobs status
+    [[ ${#lines[@]} == 2 && ${lines[1]} == "   plat px8314 boot recovery true" ]]
+    echo -n other >"$DEV/proc/device-tree/chosen/hwknobs/command"
+    run -1 hwknobs status
+    [[ ${lines[2]} == "ERROR: hwknobs_system_status: unknown hwknobs command other" ]]
+}
+
+# xml BODY: applies a document of px8314 with this body.
+xml() { hwknobs xmlconfig-set <<<"<hwknobs name='n' platform='px8314'>$1</hwknobs>"; }
+
+@test "what documents may hold" {
+    compiler record <<<'cat >source; printf blob'
+    xml '<plsetting><item key="a" value="1"/><x/></plsetting><other/>
+         <dtbo>first</dtbo><plsetting><item key="a" value="2"/><item key="B.c" value="x y"/></plsetting>
+         <dtbo><![CDATA[/* <&> */]]><x/></dtbo>'
+    [[ $(head -c 18 "$DEV/data/source") == "/* <&> */"$'\n'"&chosen " ]]
+    [[ $(bytes 0x408 14) == "$(printf 'B.c=x y\0a=2\0\0\0' | od -An -tx1 | tr -d ' \n')" && $(bytes 0x200 2) == 6e00 ]]
+    run -0 xml '<plsetting><item key="x"/></plsetting>' # no source, no blob
+    [[ ${lines[2]} == "WARN: skip null value 0x"*", (nil)" && $(bytes 0x804 4) == 00000000 ]]
+    xml '<dtbo>
+<![CDATA[lost]]></dtbo>' # the first child alone counts, a newline here
+    [[ $(grep -c lost "$DEV/data/source") == 0 ]]
+}
+
+@test "documents that are refused leave the partition as it was" {
+    hwknobs setname kaslr_disable
+    cp "$DEV/boot_para" "$DEV/before"
+    local document said
+    while IFS='|' read -r document said; do
+        run -1 hwknobs xmlconfig-set <<<"$(printf '%b' "$document")"
+        [[ ${lines[-1]} == "ERROR: $said" ]] || { echo "$document: $output"; return 1; }
+        cmp "$DEV/boot_para" "$DEV/before"
+    done <<'EOF2'
+<hwknobs name="" platform=""/>|xml config file size too small
+<hwknobs name="n" platform="px8314">|Could not parse XML file content
+<hwknobs name="n" platform="px8314">\xff</hwknobs>|Could not parse XML file content
+<hwknob name="n" platform="px8314"></hwknob>|Input file doesn't have hwknobs root element
+<hwknobs platform="px8314"><dtbo>x</dtbo></hwknobs>|Invalid setting file
+<hwknobs name="n" plat="px8314"><dtbo>x</dtbo></hwknobs>|Invalid setting file
+<hwknobs name="n" platform="px9999"></hwknobs>|Unsupport platform px9999
+<hwknobs name="n" platform="px8314"><dtbo/></hwknobs>|Empty dtbo section
+<hwknobs name="n" platform="px8314"><dtbo><!-- x --></dtbo></hwknobs>|The dtbo section does not begin with text or CDATA
+<!DOCTYPE a [<!ENTITY e SYSTEM "secret">]><hwknobs name="n" platform="px8314"><dtbo>&e;</dtbo></hwknobs>|The dtbo section does not begin with text or CDATA
+<!DOCTYPE a [<!ENTITY a "aaaaaaaaaa"><!ENTITY b "&a;&a;&a;&a;&a;&a;&a;&a;"><!ENTITY c "&b;&b;&b;&b;&b;&b;&b;&b;">]><hwknobs name="n" platform="px8314"><plsetting><item key="k" value="&c;&c;&c;"/></plsetting></hwknobs>|plenv settings need 1923 bytes, the partition holds 1003
+EOF2
+    head -c 4096 /dev/zero | tr '\0' ' ' >"$DEV/data/large"
+    run -1 hwknobs xmlconfig-set large
+    [[ ${lines[-1]} == $'\t> n < sizeof(buf)' ]]
+    run -1 hwknobs xmlconfig-set none
+    [[ ${lines[-1]} == "ERROR: Can't open input file none, 2" ]]
+    cmp "$DEV/boot_para" "$DEV/before"
+}

@@ -1,0 +1,78 @@
+#!/usr/bin/env bats
+# Compilers that fail, and compilers that treat their three streams in unusual ways.
+load device
+
+@test "failures end in a message and status 1" {
+    local body said
+    while IFS='|' read -r body said; do
+        compiler dtc <<<"$body"
+        run -1 timeout 20 "$device_script" run "$DEV" hwknobs setname kaslr_disable
+        [[ ${output#*randomize-base$'\n'} == "$(printf '%b' "$said")" ]] || { echo "$body: $output"; return 1; }
+        is_blank
+    done <<'EOF2'
+cat >/dev/null; echo no good >&2; exit 3|DTC compile failed\n==================\nno good\n==================\nERROR: DTC './dtc' failed (status 3)
+exec <&-; echo half; exit 2|DTC compile failed\n==================\n==================\nERROR: DTC './dtc' failed (status 2)
+cat >/dev/null; kill -TERM $$|ERROR: DTC process exit abnormally
+cat >/dev/null; head -c 131073 /dev/zero|ERROR: dt fragement compile size too large >= 131072
+cat >/dev/null; head -c 131072 /dev/zero; sleep 1; echo more|ERROR: dt fragement compile size too large >= 131072
+EOF2
+    compiler dtc <<<'cat >/dev/null; exit 1'
+    run -1 hwknobs --verbose setname kaslr_disable
+    [[ $output == *"DEBUG: Dump dt_fragment:
+DEBUG: /dts-v1/;"* ]]
+}
+
+@test "a compiler that is gone before it has read its source" {
+    local strace=(env ASAN_OPTIONS=detect_leaks=0 strace -o /dev/null -e inject=poll:delay_enter=300000:when=1)
+    compiler dtc <<<'exit 0' # it read nothing, and says that all went well
+    run -1 device run "${strace[@]}" hwknobs setname kaslr_disable
+    [[ ${lines[-1]} == "ERROR: Write fragment error" ]]
+    compiler dtc <<<'echo why >&2; exit 4'
+    run -1 device run "${strace[@]}" hwknobs setname kaslr_disable
+    [[ $output == *"why"*"ERROR: DTC './dtc' failed (status 4)" ]]
+}
+
+@test "streams closed in any order lose no bytes" {
+    local body
+    while read -r body; do
+        compiler dtc <<<"$body"
+        run -0 timeout 20 "$device_script" run "$DEV" hwknobs setname kaslr_disable
+        [[ ${lines[-1]} == "config set ok" && $(bytes 0x804 4) == 00000200 ]] || { echo "$body: $output"; return 1; }
+        [[ $(bytes 0x20900 256) == "$(printf '00%.0s' {1..256})" && $(bytes 0x209fc 4) == 00000000 ]]
+    done <<'EOF2'
+head -c 131072 /dev/zero; exec >&- 2>&-; cat >/dev/null
+exec 2>&-; cat >/dev/null; sleep 0.2; head -c 131072 /dev/zero
+cat >/dev/null; exec 2>&-; head -c 100000 /dev/zero; sleep 0.2; head -c 31072 /dev/zero
+head -c 100000 /dev/zero >&2; head -c 131072 /dev/zero; cat >/dev/null
+head -c 131072 /dev/zero & cat >/dev/null; exec >&-; wait
+EOF2
+}
+
+@test "each line is printed once and in order, whoever writes" {
+    compiler dtc <<<'cat >/dev/null; echo "from the compiler" >&9; exit 1'
+    run -1 device run sh -c 'hwknobs setname kaslr_disable >>log 9>>log; status=$?; cat log; exit $status'
+    [[ ${#lines[@]} == 7 && ${lines[2]} == "from the compiler" && ${lines[3]} == "DTC compile failed" ]]
+    DTCBIN=/none run -1 hwknobs setname kaslr_disable
+    [[ $(grep -c '' <<<"$output") == 6 && $output == *$'==================\nERROR: DTC \'/none\' failed (status 1)' ]]
+}
+
+@test "the child starts with default signals, the tool survives an ignored SIGCHLD" {
+    compiler dtc <<<'grep -E "^Sig(Ign|Blk)" /proc/self/status >signals; exec dtc "$@"'
+    run -0 device run sh -c 'trap "" CHLD PIPE INT; exec hwknobs setname kaslr_disable'
+    [[ ! -s $DEV/data/signals || $(tr -d '\n' <"$DEV/data/signals") =~ ^SigBlk:.0+SigIgn:.0+$ ]]
+    run -1 device run sh -c 'trap "" CHLD PIPE INT; exec hwknobs status --partition'
+    [[ $output == *"kaslr_disable"* ]]
+}
+
+@test "reading back: the command, long names and no output" {
+    hwknobs setname kaslr_disable
+    compiler dtc_vendor <<<'echo "$@" >arguments; cat >/dev/null'
+    DTCBIN="unset" run -1 device run env PATH=/data/local/tmp:/system/bin:/usr/bin hwknobs status --partition
+    [[ ${lines[-1]} == "== dts (size: 0) ==" ]]
+    [[ $(<"$DEV/data/arguments") == "-Wno-unit_address_vs_reg -I dtb -O dts -" ]]
+    local name
+    name=$(printf 'd%.0s' {1..250})
+    compiler "$name" <<<'echo "$@" >arguments; cat >/dev/null'
+    run -1 hwknobs status --partition
+    [[ $(<"$DEV/data/arguments") == -W ]] # 2 + 250 + 3 characters
+}

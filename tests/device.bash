@@ -1,0 +1,38 @@
+# Each test has a virtual device of its own, in the test's temporary folder.
+bats_require_minimum_version 1.5.0
+
+device_script=$BATS_TEST_DIRNAME/../device/device
+DEV=$BATS_TEST_TMPDIR/device
+
+setup() { "$device_script" create "$DEV" --plat-code 8314; }
+
+device() { "$device_script" "$1" "$DEV" "${@:2}"; }
+hwknobs() { device run hwknobs "$@"; }
+
+# expect STATUS OUTPUT COMMAND...: runs the command, which gives exactly this (a final newline aside).
+expect() {
+    run "${@:3}"
+    if [[ $status != "$1" || $output != "$2" ]]; then
+        echo "command: ${*:3}"
+        echo "status:  $status, expected $1"
+        diff <(echo "$2") <(echo "$output") || true
+        return 1
+    fi
+}
+
+# A compiler of that name in the device's data folder, which is the working directory inside. Its body is on stdin.
+compiler() {
+    { echo '#!/bin/sh'; cat; } >"$DEV/data/$1"
+    chmod +x "$DEV/data/$1"
+    export DTCBIN=./$1
+}
+
+id_of() { hwknobs list | awk -v name="$1" '$0 ~ " " name " " { print $1 }'; }
+
+# patch OFFSET BYTES: overwrites a part of the partition; BYTES as printf knows them.
+patch() { printf "%b" "$2" | dd of="$DEV/boot_para" bs=1 seek=$(($1)) conv=notrunc status=none; }
+bytes() { dd if="$DEV/boot_para" bs=1 skip=$(($1)) count=$(($2)) status=none | od -An -v -tx1 | tr -d ' \n'; }
+is_blank() { cmp -s -n "$(stat -c %s "$DEV/boot_para")" "$DEV/boot_para" /dev/zero; }
+
+no_id() { sed -E '/Activate/s/\([0-9]+\)/(ID)/'; }
+no_timestamp() { sed -E 's/[0-9]{4}-[0-9]{2}-[0-9]{2} [0-9]{2}:[0-9]{2}:[0-9]{2}/TIME/'; }

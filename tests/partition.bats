@@ -1,0 +1,124 @@
+#!/usr/bin/env bats
+# The bytes of the partition: written, cleared and read.
+load device
+
+u32() { printf '\\x%02x\\x%02x\\x%02x\\x%02x' $(($1 & 255)) $(($1 >> 8 & 255)) $(($1 >> 16 & 255)) $(($1 >> 24)); }
+
+# header OFFSET NAME SIZE: what a section header is.
+header() {
+    put "$1" "$(u32 0x58881688)$(u32 "$3")$2"
+    put $(($1 + 40)) "\xff\xff\xff\xff\xff\xff\xff\xff$(u32 0x58891689)$(u32 512)$(u32 1)$(u32 0)$(u32 0)$(u32 16)"
+}
+put() { printf "%b" "$2" | dd of="$DEV/image" bs=1 seek=$(($1)) conv=notrunc status=none; }
+
+# An image of 4 MiB made by hand for "Dummy 1 OFF" of px0000, with this recovery flag and a blob of 1001 bytes.
+expected_image() {
+    truncate -s 0 "$DEV/image"
+    truncate -s 4M "$DEV/image"
+    header 0 hwknobs 0x600
+    put 0x200 default
+    put 0x220 px0000
+    put 0x22c "\x0$1"
+    put 0x400 "ENV_v1\0\0AA=BB"
+    put 0x7f4 "ENV_v1\0\0$(u32 $((65 + 65 + 61 + 66 + 66)))"
+    header 0x800 hwknobs-dt 1001
+    put 0xa00 "$(printf 'b%.0s' {1..1001})"
+    if [[ $1 == 1 ]]; then header 0x20a00 hwknobs-status 0x200; fi
+}
+
+@test "the image, byte for byte" {
+    compiler blob <<<'cat >/dev/null; printf "b%.0s" $(seq 1001)'
+    echo 0 >"$DEV/proc/chip/hw_code"
+    hwknobs set 1
+    expected_image 0
+    cmp "$DEV/boot_para" "$DEV/image"
+    hwknobs set -r 1
+    expected_image 1
+    cmp "$DEV/boot_para" "$DEV/image"
+}
+
+@test "another file gets the image, the default partition is cleared all the same" {
+    compiler blob <<<'cat >/dev/null; printf "b%.0s" $(seq 1001)'
+    hwknobs setname kaslr_disable
+    hwknobs --file=out setname kaslr_disable
+    is_blank
+    [[ $(stat -c '%s %a' "$DEV/data/out") == "$((0xa00 + 1008)) 600" ]]
+    hwknobs --file=out setname -r kaslr_disable
+    [[ $(stat -c %s "$DEV/data/out") == $((0x20e00)) ]]
+    expect 1 "ERROR: Cannot read file out dt blob (No data available)" \
+        device run sh -c 'truncate -s 5000 out; hwknobs --file=out status --partition'
+    truncate -s 1048575 "$DEV/boot_para"
+    run -1 hwknobs --file=out setname kaslr_disable
+    [[ ${lines[-1]} == "ERROR: Partition size too small 1048575" ]]
+}
+
+@test "a failure after the clearing leaves no setting" {
+    hwknobs setname kaslr_disable
+    DTCBIN=./missing run -1 hwknobs setname kaslr_disable
+    [[ $output == *"ERROR: DTC './missing' failed (status 1)" ]]
+    is_blank
+    run -1 hwknobs --file=/none/out setname kaslr_disable
+    [[ ${lines[-1]} == "ERROR: Cannot open output file /none/out" ]]
+}
+
+@test "clear: three ranges, sizes and failures" {
+    # options, and what is left of the bytes at 0, 0xfffff, 0x100000 and at the end
+    local option left
+    while IFS='|' read -r option left; do
+        tr '\0' x </dev/zero | head -c 2M >"$DEV/boot_para"
+        # shellcheck disable=SC2086
+        expect 0 "" hwknobs clear $option
+        [[ $(bytes 0 1)$(bytes 0xfffff 1)$(bytes 0x100000 1)$(bytes 0x1fffff 1) == "$left" ]]
+    done <<'EOF2'
+|00007878
+--all|00000000
+--hwknobs-data|00007878
+--ddr-data|78780000
+--ddr-data --all|78780000
+EOF2
+    truncate -s 1M "$DEV/boot_para"
+    expect 0 "" hwknobs clear --ddr-data
+    [[ $(bytes 0xfffff 1) == 78 ]]
+    truncate -s $((0x100001)) "$DEV/boot_para"
+    run -0 hwknobs --verbose clear --all
+    [[ $output == "DEBUG: hwknobs_partimage_clear: filename /dev/block/by-name/boot_para action 0
+DEBUG: start offset 0 end offset 1048577" ]]
+    truncate -s $((0x8000001)) "$DEV/boot_para"
+    expect 1 "ERROR: hwknobs_partimage_clear: partition size too large" hwknobs clear
+    expect 1 "ERROR: Cannot open output file none" hwknobs --file=none clear
+}
+
+@test "no setting, and a damaged one" {
+    local none="<<partition>>
+  hwknobs partition setting doesn't exist"
+    expect 1 "$none" hwknobs status --partition
+    expect 1 "$none" hwknobs --file=none status --partition
+    hwknobs setname kaslr_disable
+    cp "$DEV/boot_para" "$DEV/good"
+    local offset data said
+    while read -r offset data said; do
+        cp "$DEV/good" "$DEV/boot_para"
+        patch "$offset" "$data"
+        run -1 hwknobs --verbose status --partition
+        grep -qxF "$said" <<<"$output" || { echo "$offset: $output"; return 1; }
+    done <<'EOF2'
+0 \x00 DEBUG: load: hwknobs data doesn't present at partition
+8 hwknobs2 DEBUG: load: hwknobs data doesn't present at partition
+0x200 \x00 DEBUG: load: invalid hwknobs header name
+0x200 \xe9 DEBUG: load: invalid hwknobs header name
+0x200 abcdefghijklmnopqrstuvwxyz123456 DEBUG: load: invalid hwknobs header name
+0x220 \x00 DEBUG: load: invalid hwknobs header plat
+0x220 px8314px8314 DEBUG: load: invalid hwknobs header plat
+0x220 px9999 ERROR: Unsupport platform px9999
+0x408 x ERROR: plenv checksum failed expect: 0, read: 78
+0x400 x DEBUG: invalid plenv signature
+0x808 x DEBUG: load: hwknobs info name:default plat:px8314
+EOF2
+    cp "$DEV/good" "$DEV/boot_para"
+    patch 0x200 'abcdefghijklmnopqrstuvwxyz12345\0'
+    run -1 hwknobs status --partition
+    [[ ${lines[0]} == "<<partition>> hwknobs partition setting name abcdefghijklmnopqrstuvwxyz12345 plat px8314 failure recovery 0" ]]
+    truncate -s 500 "$DEV/boot_para"
+    run -1 hwknobs --verbose status --partition
+    [[ $output == *"DEBUG: load: boot para read failed, size mismatch 500"* ]]
+}

@@ -1,0 +1,110 @@
+#!/usr/bin/env bats
+# The set flow: what is composed, changed, kept and refused, and what a device boots with afterwards.
+load device
+
+@test "the exact source of a setting" {
+    compiler record <<<'cat >source; printf blob'
+    hwknobs set -r "$(id_of lcm_settings)" a-2 "$(id_of kaslr_disable)" "$(id_of perf_stat_events)" sa,b-1 >"$DEV/output"
+    no_id <"$DEV/output" | diff - <(echo 'enable boot fail recovery mechanism
+Config set (platform px8314), #item=3
+	Activate  lcm_settings(ID)[arg=-2] switch lcm settings
+	Activate  kaslr_disable(ID) Disable Linux kernel randomize-base
+	Activate  perf_stat_events(ID)[str=a,b-1] Set Boot Perf Stat Events
+config set ok')
+    no_id <"$DEV/data/source" | no_timestamp | diff - "$BATS_TEST_DIRNAME/data/set_source.dts"
+    [[ $(bytes 0x408 18) == "$(printf 'perf_event=a,b-1\0\0' | od -An -v -tx1 | tr -d ' \n')" ]]
+}
+
+@test "modify, delete and the recovery flag keep what they do not name" {
+    local id
+    id=$(id_of lcm_settings)
+    hwknobs setname kaslr_disable lcm_settings a1 kmemleak_disable
+    run -0 hwknobs setname -m perf_stat_events scycles lcm_settings a9
+    [[ $(sed -n 's/^\tActivate  \([^(]*\).*/\1/p' <<<"$output" | xargs) == \
+        "kaslr_disable lcm_settings kmemleak_disable perf_stat_events" ]]
+    [[ $output == *"lcm_settings($id)[arg=9]"* ]]
+    run -0 hwknobs set -d "$id" "$(id_of enable_gpu_acp)"
+    [[ ${lines[0]} == "warn: cannot find item enable_gpu_acp to delete" && ${lines[1]} == *"#item=3" ]]
+
+    hwknobs set -m --recovery
+    [[ $(bytes 0x22c 1) == 01 ]]
+    run -0 hwknobs setname -m enable_gpu_acp # the stored flag stays
+    [[ $(bytes 0x22c 1) == 01 && ${lines[0]} == *"#item=4" ]]
+    run -0 hwknobs set -d -m --no-recovery # the last mode wins
+    [[ $(bytes 0x22c 1) == 00 && ${lines[0]} == *"#item=4" ]]
+    run -0 hwknobs setname kmemleak_enable
+    [[ ${lines[0]} == *"#item=1" ]]
+}
+
+@test "what is refused leaves the partition as it was" {
+    local none="ERROR: No item set by arguments" mismatch="ERROR: platform name mismatch between setting and partition"
+    hwknobs setname kaslr_disable
+    cp "$DEV/boot_para" "$DEV/before"
+    expect 1 "$none" hwknobs set
+    expect 1 "$none" hwknobs set -m
+    expect 1 "$none" hwknobs set -d --no-recovery
+    expect 1 "set: invalid option -- 'x'
+ERROR: hwknobs set with unknown option" hwknobs set -x 1
+    expect 1 "ERROR: invalid config number -m" hwknobs set -d "$(id_of kaslr_disable)" -m 5
+    expect 1 "$mismatch" hwknobs --plat=px8314 setname -m kmemleak_disable
+    run -1 hwknobs setname perf_stat_events "s$(printf 'x%.0s' {1..1000})"
+    [[ ${lines[-1]} == "ERROR: plenv settings need 1012 bytes, the partition holds 1003" ]]
+    DTCBIN=/none run -1 hwknobs setname -m kmemleak_disable
+    [[ $output == "ERROR: Cannot change the setting in "*"the stored items are unknown" ]]
+    cmp "$DEV/boot_para" "$DEV/before"
+    hwknobs --plat=px7314 setname -m kmemleak_disable # another platform's name passes
+}
+
+@test "an empty partition: modify makes a setting, delete does nothing" {
+    expect 0 "<<partition>>
+  hwknobs partition setting doesn't exist
+Skip delete option" hwknobs setname -d kaslr_disable
+    is_blank
+    run -0 hwknobs setname -m kaslr_disable
+    [[ ${lines[0]} == "Config set (platform px8314), #item=1" ]]
+}
+
+@test "every row without an argument at once, and long strings, come back whole" {
+    local ids long
+    long=$(printf 'x%.0s' {1..3900}) # to get past the 64 KiB that a pipe holds if nobody enlarges it
+    ids=$(hwknobs list | awk 'NR > 3 && substr($0, 119, 8) != "required" { print $1 }' | shuf --random-source=/bin/sh)
+    # shellcheck disable=SC2086
+    hwknobs set $ids "$(id_of dyndbg_set)" "s$long" "$(id_of sched_feature_set)" "s$long" >"$DEV/written"
+    [[ $((0x$(bytes 0x806 1))) -ge 1 ]]
+    grep -v ^config "$DEV/written" | sed -n 's/^\t/   /p' >"$DEV/expected"
+    [[ $(wc -l <"$DEV/expected") -gt 250 ]]
+    run hwknobs status --partition
+    cmp "$DEV/expected" <(sed -n '/^   Activate/p' <<<"$output")
+    run -0 hwknobs setname -m lcm_settings a1
+    cmp "$DEV/expected" <(sed -n 's/^\t/   /p' <<<"$output" | head -n -1)
+    device reboot
+    run -0 hwknobs status
+    cmp <(cut -c 1-258 "$DEV/expected") <(sed -n '/^   Activate/p' <<<"$output" | head -n -1) # 255 of a property
+}
+
+@test "a device boots with what was set" {
+    expect 0 "<<system>> hwknobs setting does not take effect" hwknobs status
+    hwknobs setname -r enable_gpu_acp perf_stat_events scycles
+    device reboot
+    run -0 hwknobs status --system --partition
+    [[ $(no_timestamp <<<"$output" | no_id) == "<<system>> hwknobs 'set' command at TIME
+   plat px8314 boot recovery true
+   Activate  enable_gpu_acp(ID) Enable GPU ACP
+   Activate  perf_stat_events(ID)[str=cycles] Set Boot Perf Stat Events" ]]
+    [[ $(fdtget "$DEV/merged.dtb" /mali system-coherency) == 0 && $(<"$DEV/plenv") == perf_event=cycles ]]
+    hwknobs clear
+    device reboot
+    expect 0 "<<system>> hwknobs setting does not take effect" hwknobs status
+}
+
+@test "a setting without ids is written, and read back as a warning without end" {
+    echo 0 >"$DEV/proc/chip/hw_code"
+    hwknobs set 1 7
+    device reboot
+    [[ $(fdtget "$DEV/merged.dtb" /SUSPEND status) == test-overide-1 && $(sort "$DEV/plenv" | xargs) == "AA=BB test_level=high" ]]
+    run -0 bash -c "'$device_script' run '$DEV' hwknobs status --partition | head -2000 | tail -1"
+    [[ $output == "warn: unknown option id, skip" ]]
+    expect 1 'Error in file hwknobs/hwknobs_img:919
+	function: void config_item::format_validate()
+	> check_string == NULL' hwknobs set 4 a1
+}

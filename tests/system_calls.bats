@@ -1,0 +1,18 @@
+#!/usr/bin/env bats
+# System calls that fail, one at a time: each ends in its message and status 1.
+load device
+
+# Only the calls that come after the partition's first opening, or that touch it, are meant: a path filter and the
+# call's number pick them out.
+@test "a failing call ends in its message" {
+    hwknobs setname kaslr_disable
+    cp "$DEV/boot_para" "$DEV/good"
+    local partition=/dev/block/by-name/boot_para command filter inject said
+    while IFS='|' read -r command filter inject said; do
+        cp "$DEV/good" "$DEV/boot_para"
+        # shellcheck disable=SC2086
+        run -1 timeout 20 "$device_script" run "$DEV" env ASAN_OPTIONS=detect_leaks=0 \
+            strace -o /dev/null ${filter/PART/-P $partition} -e "inject=$inject" hwknobs $command
+        [[ ${lines[-1]//$partition/PART} == "$said"* ]] || { echo "$command $inject: $output"; return 1; }
+    done <"$BATS_TEST_DIRNAME/data/failing_calls.txt"
+}
