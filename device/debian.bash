@@ -27,30 +27,28 @@ need_packages() {
     apt-get install -y -qq --no-install-recommends "${missing[@]}" </dev/null >/dev/null
 }
 
-# apt-get or apt-cache with package lists and settings of their own in FOLDER, for
-# sources (TYPE deb-src) or another architecture (TYPE deb): the machine's own are left
-# as they are. Where packages come from is taken from the machine's.
-private_apt() {
+# Makes run_apt fetch sources (TYPE deb-src) or packages of another architecture (TYPE
+# deb), with settings and lists of its own in FOLDER: the machine's are left as they are,
+# but where packages come from is taken from them.
+set_up_apt() {
   local folder=$1 type=$2 arch=$3
-  shift 3
-  if [[ ! -e $folder/updated ]]; then
-    mkdir -p -- "$folder"/{sources,lists/partial,archives/partial}
-    : >"$folder/status"
-    write_sources "$type" "$arch" >"$folder/sources/debian.list"
-    run_apt apt-get -qq update || fail 'cannot get the lists of packages'
-    : >"$folder/updated"
-  fi
-  run_apt "$@"
+  mkdir -p -- "$folder"/{sources,lists/partial,archives/partial}
+  : >"$folder/status"
+  write_sources "$type" "$arch" >"$folder/sources/debian.list"
+  apt_options=(
+    -qq -o APT::Architecture="$arch" -o APT::Architectures::="$arch"
+    -o APT::Sandbox::User=root -o APT::Update::Error-Mode=any
+    -o Dir::Etc::SourceList=/dev/null -o Dir::Etc::SourceParts="$folder/sources"
+    -o Dir::State="$folder" -o Dir::State::Lists="$folder/lists"
+    -o Dir::State::Status="$folder/status" -o Dir::Cache="$folder"
+  )
+  run_apt apt-get update
 }
 
 run_apt() {
   local program=$1
   shift
-  "$program" -o APT::Architecture="$arch" -o APT::Architectures::="$arch" \
-    -o APT::Sandbox::User=root -o APT::Update::Error-Mode=any \
-    -o Dir::Etc::SourceList=/dev/null -o Dir::Etc::SourceParts="$folder/sources" \
-    -o Dir::State="$folder" -o Dir::State::Lists="$folder/lists" \
-    -o Dir::State::Status="$folder/status" -o Dir::Cache="$folder" "$@"
+  "$program" "${apt_options[@]}" "$@"
 }
 
 # The archives of this Debian that the machine is set up for. Their origin is not known

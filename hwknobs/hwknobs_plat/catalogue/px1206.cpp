@@ -286,7 +286,7 @@ constexpr hwknobs_config rows[] = {
        "&chosen { pm-print-times; };"),
     dt("Suspend and resume devices one at a time",
        "&chosen { pm-async = <0>; };"),
-    dt_arg("Stop suspend at test stage and resume after 5 s",
+    dt_arg("Stop suspend at stage freezer, devices, platform, processors or core",
            R"(&chosen { pm-test = "%s[freezer,devices,platform,processors,core]"; };)"),
     dt("Print active wake locks when suspend is blocked",
        "&chosen { wake-lock-log; };"),
@@ -310,7 +310,7 @@ constexpr hwknobs_config rows[] = {
     // TOOL: logs, trace and bring-up
     dt("Enable early console on UART",
        "&chosen { earlycon; };"),
-    dt_arg("Switch Android shell on UART console",
+    dt_arg("Switch Android shell on UART console on or off",
            R"(&chosen { uart-shell = "%s[on,off]"; };)"),
     both("Set UART baud rate to 921600",
          "baud", "921600",
