@@ -4,20 +4,13 @@ load device
 
 @test "usage and unknown words" {
     local usage words said
-    usage=$(<"$BATS_TEST_DIRNAME/data/usage.txt")
+    usage=$(<"$data/usage.txt")
     expect 1 "$usage" hwknobs --verbose --plat px0000
     expect 1 "$usage" hwknobs --help plat-list
     while IFS='|' read -r words said; do
         # shellcheck disable=SC2086
         expect 1 "$said" hwknobs $words
-    done <<'EOF2'
-List|ERROR: Unknown command 'List'
---bad list|hwknobs: unrecognized option '--bad'
---plat|hwknobs: option '--plat' requires an argument
---plat=PX0000 list|ERROR: Unsupport platform PX0000
-clear --bad|clear: unrecognized option '--bad'
-status --bad|status: unrecognized option '--bad'
-EOF2
+    done <"$data/refused_words.txt"
 }
 
 @test "detection of the platform" {

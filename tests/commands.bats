@@ -24,7 +24,7 @@ load device
         if [[ $code == HWKNOBS_FORCE_ENABLE ]]; then pl=$message lk=$message; fi
         expect 1 "[PL]: $pl
 [LK]: $lk" hwknobs auth-status
-    done <"$BATS_TEST_DIRNAME/data/auth_codes.txt"
+    done <"$data/auth_codes.txt"
     device reboot --pl PL_AUTH_FAIL
     expect 1 "[PL]: SBOOT enable, Image authentication FAIL
 ERROR: hwknobs_sec_boot_status: Can't open atag,lk-sec entry" hwknobs auth-status
@@ -60,7 +60,7 @@ $rule
 }
 
 @test "xmlconfig-show: the exact document" {
-    hwknobs xmlconfig-show lcm_settings a3 perf_stat_events scycles | no_id | diff "$BATS_TEST_DIRNAME/data/exported.xml" -
+    hwknobs xmlconfig-show lcm_settings a3 perf_stat_events scycles | no_id | diff "$data/exported.xml" -
     expect 1 "ERROR: No item" hwknobs xmlconfig-show
     run -0 device run sh -c 'hwknobs --verbose xmlconfig-show kaslr_disable >log; cat log'
     [[ $output == DEBUG*"<?xml"*"</hwknobs>" ]]
@@ -122,19 +122,7 @@ xml() { hwknobs xmlconfig-set <<<"<hwknobs name='n' platform='px8314'>$1</hwknob
         run -1 hwknobs xmlconfig-set <<<"$(printf '%b' "$document")"
         [[ ${lines[-1]} == "ERROR: $said" ]] || { echo "$document: $output"; return 1; }
         cmp "$DEV/boot_para" "$DEV/before"
-    done <<'EOF2'
-<hwknobs name="" platform=""/>|xml config file size too small
-<hwknobs name="n" platform="px8314">|Could not parse XML file content
-<hwknobs name="n" platform="px8314">\xff</hwknobs>|Could not parse XML file content
-<hwknob name="n" platform="px8314"></hwknob>|Input file doesn't have hwknobs root element
-<hwknobs platform="px8314"><dtbo>x</dtbo></hwknobs>|Invalid setting file
-<hwknobs name="n" plat="px8314"><dtbo>x</dtbo></hwknobs>|Invalid setting file
-<hwknobs name="n" platform="px9999"></hwknobs>|Unsupport platform px9999
-<hwknobs name="n" platform="px8314"><dtbo/></hwknobs>|Empty dtbo section
-<hwknobs name="n" platform="px8314"><dtbo><!-- x --></dtbo></hwknobs>|The dtbo section does not begin with text or CDATA
-<!DOCTYPE a [<!ENTITY e SYSTEM "secret">]><hwknobs name="n" platform="px8314"><dtbo>&e;</dtbo></hwknobs>|The dtbo section does not begin with text or CDATA
-<!DOCTYPE a [<!ENTITY a "aaaaaaaaaa"><!ENTITY b "&a;&a;&a;&a;&a;&a;&a;&a;"><!ENTITY c "&b;&b;&b;&b;&b;&b;&b;&b;">]><hwknobs name="n" platform="px8314"><plsetting><item key="k" value="&c;&c;&c;"/></plsetting></hwknobs>|plenv settings need 1923 bytes, the partition holds 1003
-EOF2
+    done <"$data/refused_documents.txt"
     head -c 4096 /dev/zero | tr '\0' ' ' >"$DEV/data/large"
     run -1 hwknobs xmlconfig-set large
     [[ ${lines[-1]} == $'\t> n < sizeof(buf)' ]]

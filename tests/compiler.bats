@@ -9,13 +9,7 @@ load device
         run -1 timeout 20 "$device_script" run "$DEV" hwknobs setname kaslr_disable
         [[ ${output#*randomize-base$'\n'} == "$(printf '%b' "$said")" ]] || { echo "$body: $output"; return 1; }
         is_blank
-    done <<'EOF2'
-cat >/dev/null; echo no good >&2; exit 3|DTC compile failed\n==================\nno good\n==================\nERROR: DTC './dtc' failed (status 3)
-exec <&-; echo half; exit 2|DTC compile failed\n==================\n==================\nERROR: DTC './dtc' failed (status 2)
-cat >/dev/null; kill -TERM $$|ERROR: DTC process exit abnormally
-cat >/dev/null; head -c 131073 /dev/zero|ERROR: dt fragement compile size too large >= 131072
-cat >/dev/null; head -c 131072 /dev/zero; sleep 1; echo more|ERROR: dt fragement compile size too large >= 131072
-EOF2
+    done <"$data/failing_compilers.txt"
     compiler dtc <<<'cat >/dev/null; exit 1'
     run -1 hwknobs --verbose setname kaslr_disable
     [[ $output == *"DEBUG: Dump dt_fragment:

@@ -101,19 +101,7 @@ DEBUG: start offset 0 end offset 1048577" ]]
         patch "$offset" "$data"
         run -1 hwknobs --verbose status --partition
         grep -qxF "$said" <<<"$output" || { echo "$offset: $output"; return 1; }
-    done <<'EOF2'
-0 \x00 DEBUG: load: hwknobs data doesn't present at partition
-8 hwknobs2 DEBUG: load: hwknobs data doesn't present at partition
-0x200 \x00 DEBUG: load: invalid hwknobs header name
-0x200 \xe9 DEBUG: load: invalid hwknobs header name
-0x200 abcdefghijklmnopqrstuvwxyz123456 DEBUG: load: invalid hwknobs header name
-0x220 \x00 DEBUG: load: invalid hwknobs header plat
-0x220 px8314px8314 DEBUG: load: invalid hwknobs header plat
-0x220 px9999 ERROR: Unsupport platform px9999
-0x408 x ERROR: plenv checksum failed expect: 0, read: 78
-0x400 x DEBUG: invalid plenv signature
-0x808 x DEBUG: load: hwknobs info name:default plat:px8314
-EOF2
+    done <"$data/damaged_partitions.txt"
     cp "$DEV/good" "$DEV/boot_para"
     patch 0x200 'abcdefghijklmnopqrstuvwxyz12345\0'
     run -1 hwknobs status --partition

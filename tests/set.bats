@@ -11,7 +11,7 @@ Config set (platform px8314), #item=3
 	Activate  kaslr_disable(ID) Disable Linux kernel randomize-base
 	Activate  perf_stat_events(ID)[str=a,b-1] Set Boot Perf Stat Events
 config set ok')
-    no_id <"$DEV/data/source" | no_timestamp | diff - "$BATS_TEST_DIRNAME/data/set_source.dts"
+    no_id <"$DEV/data/source" | no_timestamp | diff - "$data/set_source.dts"
     [[ $(bytes 0x408 18) == "$(printf 'perf_event=a,b-1\0\0' | od -An -v -tx1 | tr -d ' \n')" ]]
 }
 

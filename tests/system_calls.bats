@@ -14,5 +14,5 @@ load device
         run -1 timeout 20 "$device_script" run "$DEV" env ASAN_OPTIONS=detect_leaks=0 \
             strace -o /dev/null ${filter/PART/-P $partition} -e "inject=$inject" hwknobs $command
         [[ ${lines[-1]//$partition/PART} == "$said"* ]] || { echo "$command $inject: $output"; return 1; }
-    done <"$BATS_TEST_DIRNAME/data/failing_calls.txt"
+    done <"$data/failing_calls.txt"
 }

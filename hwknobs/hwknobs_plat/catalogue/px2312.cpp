@@ -176,7 +176,7 @@ constexpr hwknobs_config rows[] = {
     dt("Disable DRAM power-down between accesses",
        "&dramc { power-down-disable; };"),
     env_arg("Set DQ on-die termination of DRAM (40, 48, 60, 80, 120 or 240 ohms)",
-            "ddr_odt", "%s[40,48,60,80,120,240]"),
+            "ddr_odt", "%u"),
     env("Disable DRAM data bus inversion (DBI)",
         "ddr_dbi", "off"),
     env("Use DRAM channel 0 only",

@@ -254,7 +254,7 @@ constexpr hwknobs_config rows[] = {
          "lprst", "off",
          "&pmic_keys { long-press-mode = <0>; };"),
     dt_arg("Set long-press reset time of the power key (5, 8, 11 or 14 s)",
-           "&pmic_keys { power-off-time-sec = <%s[5,8,11,14]>; };"),
+           "&pmic_keys { power-off-time-sec = <%u>; };"),
     dt("Use warm reset on reboot and panic (DRAM stays powered)",
        R"(&pmic { reset-type = "warm"; };)"),
     both("Disable PMIC watchdog",

@@ -300,7 +300,7 @@ constexpr hwknobs_config rows[] = {
          "lprst", "off",
          "&pmic_keys { long-press-mode = <0>; };"),
     dt_arg(137, PMIC, "pwrkey_reset_time_set", "Set long-press reset time of the power key (5, 8, 11 or 14 s)",
-           "&pmic_keys { power-off-time-sec = <%s[5,8,11,14]>; };"),
+           "&pmic_keys { power-off-time-sec = <%u>; };"),
     dt(138, PMIC, "pmic_reset_warm", "Use warm reset on reboot and panic (DRAM stays powered)",
        R"(&pmic { reset-type = "warm"; };)"),
     both(140, PMIC, "pmic_wdt_disable", "Disable PMIC watchdog",

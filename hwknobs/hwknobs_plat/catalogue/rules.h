@@ -30,7 +30,10 @@ enum class rule {
     argument_row_has_a_conversion,
     row_without_argument_has_no_conversion,
     template_is_valid,
+    argument_row_has_no_percent_sign,
+    allowed_values_are_read_back,
     blank_follows_bare_string_conversion,
+    no_string_follows_a_free_one,
     plenv_key_is_read_back,
     plenv_value_is_read_back,
     fragment_has_no_line_of_an_item,
@@ -57,21 +60,22 @@ constexpr bool is_digit(char c) { return c >= '0' && c <= '9'; }
 struct template_facts {
     template_check check;
     std::size_t longest_value = 0;  ///< of the allowed values
-    bool has_values = false;
+    bool values_are_letters = true;
 };
 
 constexpr template_facts inspect_template(std::string_view text) {
     template_facts facts;
-    std::array<std::string_view, 32> values{};
+    std::array<std::string_view, 64> values{};
     std::size_t count = 0;
     facts.check = check_template(text, [&](std::string_view value) {
         for (std::size_t i = 0; i < count; ++i)
             if (values[i] == value) return false;
         values[count++] = value;
         if (value.size() > facts.longest_value) facts.longest_value = value.size();
+        for (const char c : value)
+            if (is_digit(c)) facts.values_are_letters = false;
         return true;
     });
-    facts.has_values = count != 0;
     return facts;
 }
 
@@ -141,11 +145,17 @@ constexpr rule check_plenv(const hwknobs_config::plenv_pair& pair) {
     return value_is_read_back(pair.value) ? rule::none : rule::plenv_value_is_read_back;
 }
 
-// In a fragment a swallowed byte would be a quote sooner or later: a blank has to stand there to be swallowed.
-constexpr bool blank_follows_bare_strings(std::string_view text) {
-    for (std::size_t at = text.find("%s"); at != std::string_view::npos; at = text.find("%s", at + 2))
-        if (at + 2 < text.size() && text[at + 2] != '[' && text[at + 2] != ' ') return false;
-    return true;
+// Of bare string conversions in a fragment: in place of the swallowed byte there has to stand a blank, or it would be
+// a quote sooner or later. And where the argument is "item", the reader takes the rest up to the next string for a line
+// of its own: the string that holds the conversion is the last.
+constexpr rule check_free_strings(std::string_view fragment) {
+    for (std::size_t at = fragment.find("%s"); at != std::string_view::npos; at = fragment.find("%s", at + 2)) {
+        const std::string_view rest = fragment.substr(at + 2);
+        if (rest.starts_with('[')) continue;
+        if (!rest.starts_with(' ')) return rule::blank_follows_bare_string_conversion;
+        if (rest.find('"') != rest.rfind('"')) return rule::no_string_follows_a_free_one;
+    }
+    return rule::none;
 }
 
 constexpr bool takes_nothing(std::string_view text) {
@@ -162,11 +172,12 @@ constexpr rule check_templates(const hwknobs_config& row) {
                    : rule::row_without_argument_has_no_conversion;
     if ((value != nullptr) == (fragment != nullptr)) return rule::argument_row_has_exactly_one_template;
     const std::string_view text = value != nullptr ? value : fragment;
-    const template_check check = inspect_template(text).check;
-    if (check.fault != template_fault::none) return rule::template_is_valid;
-    if (check.kind == config_arg_kind::none) return rule::argument_row_has_a_conversion;
-    if (!blank_follows_bare_strings(text)) return rule::blank_follows_bare_string_conversion;
-    return rule::none;
+    const template_facts facts = inspect_template(text);
+    if (facts.check.fault != template_fault::none) return rule::template_is_valid;
+    if (contains(text, "%%")) return rule::argument_row_has_no_percent_sign;
+    if (facts.check.kind == config_arg_kind::none) return rule::argument_row_has_a_conversion;
+    if (!facts.values_are_letters) return rule::allowed_values_are_read_back;
+    return check_free_strings(text_of(fragment));
 }
 
 constexpr rule first_broken(std::initializer_list<rule> rules) {
@@ -214,8 +225,8 @@ constexpr verdict check_version_0(std::span<const hwknobs_config> rows) {
 
 // Each key once, with its longest value: the most that any selection can take.
 constexpr std::size_t plenv_size_of_all(std::span<const hwknobs_config> rows) {
-    std::array<std::string_view, 64> keys{};
-    std::array<std::size_t, 64> sizes{};
+    std::array<std::string_view, 1024> keys{};
+    std::array<std::size_t, 1024> sizes{};
     std::size_t count = 0;
     for (const hwknobs_config& row : rows) {
         if (row.pl_setting.key == nullptr) continue;
@@ -227,7 +238,7 @@ constexpr std::size_t plenv_size_of_all(std::span<const hwknobs_config> rows) {
         if (size > sizes[i]) sizes[i] = size;
     }
     std::size_t total = 0;
-    for (const std::size_t size : sizes) total += size;
+    for (std::size_t i = 0; i < count; ++i) total += sizes[i];
     return total;
 }
 
