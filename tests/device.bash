@@ -2,6 +2,7 @@
 bats_require_minimum_version 1.5.0
 
 device_script=$BATS_TEST_DIRNAME/../device/device
+# shellcheck disable=SC2034 # tables of cases and expected outputs, for the tests
 data=$BATS_TEST_DIRNAME/data
 DEV=$BATS_TEST_TMPDIR/device
 

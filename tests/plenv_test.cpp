@@ -8,12 +8,10 @@ namespace {
 
 using namespace std::string_literals;
 
-void put(plenv_block& block, const std::string& bytes) { std::ranges::copy(bytes, block.entries.begin()); }
-
 // A block with these bytes in its entry area and a checksum that fits.
 plenv_block block_of(const std::string& entries) {
     plenv_block block = hwknobs_plenv_build({});
-    put(block, entries);
+    std::ranges::copy(entries, block.entries.begin());
     std::uint32_t sum = 0;
     for (const char c : block.entries) sum += static_cast<unsigned char>(c);
     block.checksum = sum;
@@ -50,15 +48,12 @@ TEST(Plenv, Parsing) {
 }
 
 TEST(Plenv, SignaturesAndChecksum) {
-    plenv_block block = block_of("a=1");
-    block.tail[7] = 'x';
-    EXPECT_TRUE(hwknobs_plenv_parse(block).empty());
-    block = block_of("a=1");
-    block.head[0] = 'x';
-    EXPECT_TRUE(hwknobs_plenv_parse(block).empty());
-    block = block_of("a=1");
-    block.entries[1003] = '\x80';
-    EXPECT_ERROR(hwknobs_plenv_parse(block), "plenv checksum failed expect: cf, read: 14f");
+    plenv_block head = block_of("a=1"), tail = block_of("a=1"), data = block_of("a=1");
+    head.head[0] = tail.tail[7] = 'x';
+    data.entries[1003] = '\x80';
+    EXPECT_TRUE(hwknobs_plenv_parse(head).empty());
+    EXPECT_TRUE(hwknobs_plenv_parse(tail).empty());
+    EXPECT_ERROR(hwknobs_plenv_parse(data), "plenv checksum failed expect: cf, read: 14f");
 }
 
 TEST(Plenv, AsciiFields) {
