@@ -19,11 +19,12 @@ need_packages() {
         apt-get install -y -qq --no-install-recommends "${missing[@]}" </dev/null >/dev/null
 }
 
-# build PRESET [TARGET...]: configures and builds in build/PRESET, quietly unless it fails.
+# build PRESET TESTS [TARGET...]: configures and builds in build/PRESET, with the tests (ON) or without (OFF); quietly
+# unless it fails.
 build() {
     local log=build/$1.log
     mkdir -p build
-    if ! { cmake --preset "$1" && cmake --build "build/$1" ${2:+--target "${@:2}"}; } >"$log" 2>&1; then
+    if ! { cmake --preset "$1" -DHWKNOBS_TESTS="$2" && cmake --build "build/$1" ${3:+--target "${@:3}"}; } >"$log" 2>&1; then
         cat "$log" >&2
         return 1
     fi
