@@ -43,9 +43,9 @@ void enlarge_pipe(const unique_fd& end) {
 char* run_shell(pipe_ends& in, pipe_ends& out) {
     out.read.reset();
     in.write.reset();
-    dup2(out.write.get(), STDOUT_FILENO);
+    if (dup2(out.write.get(), STDOUT_FILENO) == -1) return fail("dup2 error");
     out.write.reset();
-    dup2(in.read.get(), STDIN_FILENO);
+    if (dup2(in.read.get(), STDIN_FILENO) == -1) return fail("dup2 error");
     std::array<char, 256> command{};
     std::strncpy(command.data(), hwknobs_dt_compiler(), command.size() - 1);
     std::strncat(command.data(), compiler_options, command.size() - 1 - std::strlen(command.data()));

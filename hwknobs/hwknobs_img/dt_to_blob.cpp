@@ -45,9 +45,9 @@ compiler_pipes open_pipes() {
 // In the child. Its standard output is the pipe by now: the message of a failed exec ends up where a blob would, and
 // what the user sees is the parent's report of the exit status.
 [[noreturn]] void run_compiler(compiler_pipes pipes, program_name program) {
-    dup2(pipes.in.read.get(), STDIN_FILENO);
-    dup2(pipes.out.write.get(), STDOUT_FILENO);
-    dup2(pipes.err.write.get(), STDERR_FILENO);
+    if (dup2(pipes.in.read.get(), STDIN_FILENO) == -1 || dup2(pipes.out.write.get(), STDOUT_FILENO) == -1 ||
+        dup2(pipes.err.write.get(), STDERR_FILENO) == -1)
+        error("%s: dup2 failed, %s", function_name, std::strerror(errno));
     pipes = {};
     char* const argv[] = {program.data(), nullptr};
     execvp(program.data(), argv);
@@ -64,7 +64,7 @@ public:
           source_(source),
           blob_(blob) {
         // A full pipe must not hold us up while the compiler waits for its output to be read.
-        fcntl(in_.get(), F_SETFL, O_NONBLOCK);
+        if (fcntl(in_.get(), F_SETFL, O_NONBLOCK) == -1) error("Write fragment error");
     }
 
     // Returns when all three pipes are done with. The compiler may close them in any order: only the end of a stream

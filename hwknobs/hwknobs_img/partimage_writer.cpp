@@ -7,11 +7,11 @@
 #include <fcntl.h>
 
 #include <algorithm>
+#include <array>
 #include <cerrno>
 #include <cstring>
 #include <memory>
 #include <string_view>
-#include <vector>
 
 namespace {
 
@@ -91,7 +91,7 @@ void hwknobs_partimage_clear(const char* partition, int mode) {
 
     if (lseek(file.get(), start, SEEK_SET) == -1)
         error("%s: lseek to start failed %s", function_name, std::strerror(errno));
-    const std::vector<char> zeros(clear_chunk_size);
+    const std::array<char, clear_chunk_size> zeros{};
     for (long position = start; position < end;) {
         const std::size_t chunk = std::min(zeros.size(), static_cast<std::size_t>(end - position));
         write_whole(file, partition, zeros.data(), chunk);

@@ -36,10 +36,13 @@ void read_plsetting(const xmlNode* plsetting, plenv_map& settings) {
     }
 }
 
-// The first child alone holds the source; the header that records the run is appended to it.
+// The first child alone holds the source; the header that records the run is appended to it. References to entities are
+// not followed, and a source with a hole in it is not one to boot with.
 std::string read_dtbo(const xmlNode* dtbo, const char* plat) {
     const xmlNode* const source = dtbo->children;
     if (source == nullptr) error("Empty dtbo section\n");
+    for (const xmlNode* child = source; child != nullptr; child = child->next)
+        if (child->type == XML_ENTITY_REF_NODE) error("The dtbo section refers to an entity");
     if (source->type != XML_CDATA_SECTION_NODE && source->type != XML_TEXT_NODE)
         error("The dtbo section does not begin with text or CDATA");
     return fmt::format(
