@@ -6,25 +6,12 @@ top=$(cd -- "$(dirname -- "${BASH_SOURCE[0]}")/.." && pwd)
 # shellcheck disable=SC2034 # used by those who source this
 cache=$top/.cache/device
 
+# shellcheck source=../scripts/setup.bash
+. "$top/scripts/setup.bash"
+
 fail() {
   printf '%s: %s\n' "${0##*/}" "$1" >&2
   exit 1
-}
-
-# Installs those of the packages that the machine lacks.
-need_packages() {
-  local name missing=() as_root=()
-  for name; do
-    if [[ $(dpkg-query -W -f '${db:Status-Status}' -- "$name" 2>&1) != installed ]]; then
-      missing+=("$name")
-    fi
-  done
-  ((${#missing[@]})) || return 0
-  printf '%s: installing %s\n' "${0##*/}" "${missing[*]}"
-  if ((EUID)); then as_root=(sudo); fi
-  "${as_root[@]}" apt-get update -qq
-  "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive \
-    apt-get install -y -qq --no-install-recommends "${missing[@]}" </dev/null >/dev/null
 }
 
 # Makes run_apt fetch sources (TYPE deb-src) or packages of another architecture (TYPE

@@ -19,9 +19,9 @@ need_packages() {
         apt-get install -y -qq --no-install-recommends "${missing[@]}" </dev/null >/dev/null
 }
 
-# build PRESET TESTS [TARGET...]: configures and builds in build/PRESET, with the tests (ON) or without (OFF); quietly
+# build_preset PRESET TESTS [TARGET...]: configures and builds in build/PRESET, with the tests (ON) or without (OFF); quietly
 # unless it fails.
-build() {
+build_preset() {
     local log=build/$1.log
     mkdir -p build
     if ! { cmake --preset "$1" -DHWKNOBS_TESTS="$2" && cmake --build "build/$1" ${3:+--target "${@:3}"}; } >"$log" 2>&1; then

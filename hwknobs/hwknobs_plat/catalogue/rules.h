@@ -242,16 +242,32 @@ constexpr std::size_t plenv_size_of_all(std::span<const hwknobs_config> rows) {
     return total;
 }
 
+// Names met so far, in open slots by a hash: comparing each with each would take more steps than compilers allow.
+class name_set {
+public:
+    constexpr bool insert(std::string_view name) {
+        std::size_t slot = 0;
+        for (const char c : name) slot = slot * 31 + static_cast<unsigned char>(c);
+        for (slot %= slots_.size(); !slots_[slot].empty(); slot = (slot + 1) % slots_.size())
+            if (slots_[slot] == name) return false;
+        slots_[slot] = name;
+        return true;
+    }
+
+private:
+    std::array<std::string_view, 2048> slots_{};
+};
+
 constexpr verdict check_version_2(std::span<const hwknobs_config> rows) {
     std::array<bool, 1024> seen_ids{};
+    name_set seen_names;
     for (std::size_t i = 0; i < rows.size(); ++i) {
         const auto at = static_cast<int>(i);
         if (const rule broken = first_broken({check_row(rows[i]), check_identity(rows[i])}); broken != rule::none)
             return {at, broken};
         if (seen_ids[rows[i].id]) return {at, rule::id_is_unique};
         seen_ids[rows[i].id] = true;
-        for (std::size_t k = 0; k < i; ++k)
-            if (std::string_view(rows[k].name) == rows[i].name) return {at, rule::name_is_unique};
+        if (!seen_names.insert(rows[i].name)) return {at, rule::name_is_unique};
     }
     if (plenv_size_of_all(rows) > plenv_capacity)
         return {static_cast<int>(rows.size()) - 1, rule::plenv_of_all_rows_fits_the_block};
