@@ -73,9 +73,8 @@ std::optional<setting_head> read_head(const unique_fd& file, const char* path) {
     return head;
 }
 
-std::string convert_to_source(const std::vector<char>& blob) {
-    const std::unique_ptr<char, decltype(&std::free)> dts(
-        hwknobs_blob_to_dts(blob.data(), static_cast<long>(blob.size())), &std::free);
+std::string convert_to_source(const char* blob) {
+    const std::unique_ptr<char, decltype(&std::free)> dts(hwknobs_blob_to_dts(blob, blob_capacity), &std::free);
     if (dts == nullptr) error("No hwknobs device tree blob\n");
     return dts.get();
 }
@@ -97,10 +96,10 @@ std::unique_ptr<hwknobs_partimage> hwknobs_partimage::load(const char* partition
     read_at(file, partition, offsetof(partition_image, plenv), &block, sizeof(block));
     plenv_map plenv = hwknobs_plenv_parse(block);
     // The whole reserved area: the compiler finds the blob's real size in the blob.
-    std::vector<char> blob(blob_capacity);
-    read_at(file, partition, offsetof(partition_image, blob), blob.data(), blob.size());
+    const auto blob = std::make_unique_for_overwrite<char[]>(blob_capacity);
+    read_at(file, partition, offsetof(partition_image, blob), blob.get(), blob_capacity);
     file.reset();
-    std::string dts = convert_to_source(blob);
+    std::string dts = convert_to_source(blob.get());
 
     debug("%s: hwknobs info name:%s plat:%s\n", "load", head->name.c_str(), head->plat.c_str());
     return std::make_unique<hwknobs_partimage>(hwknobs_partimage{head->name, hwknobs_get_plat(head->plat.c_str()),

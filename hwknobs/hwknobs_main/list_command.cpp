@@ -106,47 +106,58 @@ std::array<char, 256> list_summary(std::size_t config_num, u64 mask) {
     return msg;
 }
 
+struct row_id {
+    int id;
+    int index;
+};
+
 // Tables are not kept in the order of ids; listings are.
-std::vector<const hwknobs_config*> sorted_by_id(std::span<const hwknobs_config> configs) {
-    std::vector<const hwknobs_config*> sorted;
-    sorted.reserve(configs.size());
-    for (const hwknobs_config& config : configs) sorted.push_back(&config);
-    std::ranges::sort(sorted, [](const hwknobs_config* a, const hwknobs_config* b) {
-        const int ids[] = {static_cast<int>(a->id), static_cast<int>(b->id)};
-        return cmp(&ids[0], &ids[1]) < 0;
-    });
-    return sorted;
+std::vector<row_id> sorted_by_id(std::span<const hwknobs_config> configs) {
+    std::vector<row_id> rows;
+    rows.reserve(configs.size());
+    for (const hwknobs_config& config : configs)
+        rows.push_back({static_cast<int>(config.id), static_cast<int>(rows.size())});
+    std::ranges::sort(rows, [](const row_id& a, const row_id& b) { return cmp(&a.id, &b.id) < 0; });
+    return rows;
 }
 
-// One line of a listing with ids. Nothing is cut: a long text pushes the rest of its line to the right.
-void append_row(std::string& out, std::string_view id, std::string_view desc, std::string_view name,
-                std::string_view arg, std::string_view group) {
-    const auto pad = [&out](std::size_t width, std::size_t size) { out.append(width > size ? width - size : 0, ' '); };
-    pad(3, id.size());
-    out += id;
-    for (const auto& [text, width] :
-         {std::pair(desc, 72), std::pair(name, 40), std::pair(arg, 12), std::pair(group, 8)}) {
-        out += ' ';
-        out += text;
-        pad(static_cast<std::size_t>(width), text.size());
+// Prints the lines of a listing with ids. They are put together by hand: printf() would take longer than all the rest.
+class row_printer {
+public:
+    void print(std::string_view id, std::string_view desc, std::string_view name, std::string_view arg,
+               std::string_view group) {
+        line_.assign(id.size() < 3 ? 3 - id.size() : 0, ' ') += id;
+        append(desc, 72);
+        append(name, 40);
+        append(arg, 12);
+        append(group, 8);
+        line_ += '\n';
+        std::fwrite(line_.data(), 1, line_.size(), stdout);
     }
-    out += '\n';
-}
 
-// The rows are put together by hand and written at once: printf() would take ten times as long as all the rest.
+private:
+    // Nothing is cut: a long text pushes the rest of its line to the right.
+    void append(std::string_view text, std::size_t width) {
+        (line_ += ' ') += text;
+        if (text.size() < width) line_.append(width - text.size(), ' ');
+    }
+
+    std::string line_;
+};
+
 // NOLINTNEXTLINE(bugprone-reserved-identifier)
 void __print_list(const hwknobs_plat* plat, u64 mask) {
     const auto configs = hwknobs_configs(*plat);
     std::printf("XPR config list V2 (arch %s) %s\n", plat->name, list_summary(configs.size(), mask).data());
-    std::string out;
-    append_row(out, "ID", "DESC", "NAME", "ARG", "GROUP");
-    out.append(144, '-') += '\n';
-    for (const hwknobs_config* const config : sorted_by_id(configs)) {
-        if (mask != 0 && (mask & group_bit(config->group)) == 0) continue;
-        append_row(out, std::to_string(config->id), config->desc, config->name,
-                   config->takes_argument() ? "required" : "", get_hwknobs_group_name(config->group));
+    row_printer rows;
+    rows.print("ID", "DESC", "NAME", "ARG", "GROUP");
+    std::puts(std::string(144, '-').c_str());
+    for (const row_id& row : sorted_by_id(configs)) {
+        const hwknobs_config& config = configs[static_cast<std::size_t>(row.index)];
+        if (mask != 0 && (mask & group_bit(config.group)) == 0) continue;
+        rows.print(std::to_string(row.id), config.desc, config.name, config.takes_argument() ? "required" : "",
+                   get_hwknobs_group_name(config.group));
     }
-    std::fwrite(out.data(), 1, out.size(), stdout);
 }
 
 }  // namespace

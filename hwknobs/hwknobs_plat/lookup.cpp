@@ -57,5 +57,3 @@ const hwknobs_config* get_config_by_id(const hwknobs_plat* plat, unsigned int id
     const auto found = std::ranges::find(rows, id, &hwknobs_config::id);
     return found == rows.end() ? nullptr : &*found;
 }
-
-int cmp(const int* a, const int* b) { return (*a > *b) - (*a < *b); }

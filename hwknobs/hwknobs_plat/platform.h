@@ -67,5 +67,5 @@ std::span<const hwknobs_config> hwknobs_configs(const hwknobs_plat& plat);
 /// The setting with that id, or null. Version-0 tables have no ids: null, whatever their rows carry.
 const hwknobs_config* get_config_by_id(const hwknobs_plat* plat, unsigned int id);
 
-/// Compares for qsort(): -1, 0 or 1.
-int cmp(const int* a, const int* b);
+/// Compares two ids for sorting: -1, 0 or 1.
+inline int cmp(const int* a, const int* b) { return (*a > *b) - (*a < *b); }
