@@ -4,7 +4,7 @@
 // GPU      Mali-T720, 1 shader core, 299 to 450 MHz
 // DRAM     LPDDR2, 1 channel, 1066 / 938 / 800 Mbps
 // Display  1 DSI link, up to 60 Hz; panels hx8394_wxga_video, ili9881_wxga_video, st7703_wxga_video
-// PMIC     rails vproc, vcore, vgpu, vdram, vpa; LDOs vio18, vio28, vemc33, vmch, vusb33, vcama, vibr
+// PMIC     rails vproc, vcore, vgpu, vdram, vpa; LDOs vio18, vio28, vemmc33, vsd33, vusb33, vcam28, vvib
 // Storage  eMMC 4.5
 // Modem    3G
 // clang-format off: a table, one setting a row
@@ -155,8 +155,8 @@ constexpr hwknobs_config rows[] = {
        "&pmic { buck-force-pwm; };"),
     dt("Keep bucks and LDOs out of low-power mode in suspend",
        R"(&pmic { low-power-mode = "off"; };)"),
-    dt("Keep SD card LDO vmch on",
-       "&vmch { regulator-always-on; };"),
+    dt("Keep SD card LDO vsd33 on",
+       "&vsd33 { regulator-always-on; };"),
     dt("Log regulator over-current, do not switch off",
        R"(&pmic { over-current-action = "log"; };)"),
     both("Disable long-press reset of the power key",
@@ -252,7 +252,7 @@ constexpr hwknobs_config rows[] = {
     dt("Keep DRAM out of self-refresh in SoC idle",
        "&spm { idle-dram-self-refresh-disable; };"),
     dt("Disable hardware clock gating of system bus",
-       "&infracfg { clock-gating-disable; };"),
+       "&sysbus { clock-gating-disable; };"),
     dt("Disable eMMC runtime suspend",
        "&mmc0 { runtime-pm-disable; };"),
 

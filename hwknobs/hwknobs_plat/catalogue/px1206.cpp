@@ -5,8 +5,8 @@
 // GPU      Mali-T860, 2 shader cores, 299 to 700 MHz
 // DRAM     LPDDR3, 1 channel, 1866 / 1600 / 1333 / 1066 Mbps
 // Display  1 DSI link, up to 60 Hz; panels nt35521_wxga_video, otm1906_fhd_video, r63350_fhd_video
-// PMIC     rails vproc, vcore, vgpu, vdram, vpa, vs1; LDOs vio18, vio28, vemc33, vmch, vusb33, vcama, vibr, vcn18,
-//          vcn33
+// PMIC     rails vproc, vcore, vgpu, vdram, vpa, vs1; LDOs vio18, vio28, vemmc33, vsd33, vusb33, vcam28, vvib,
+//          vconn18, vconn33
 // Storage  eMMC 5.0
 // Modem    LTE
 // clang-format off: a table, one setting a row
@@ -184,8 +184,8 @@ constexpr hwknobs_config rows[] = {
        "&pmic { buck-force-pwm; };"),
     dt("Keep bucks and LDOs out of low-power mode in suspend",
        R"(&pmic { low-power-mode = "off"; };)"),
-    dt("Keep SD card LDO vmch on",
-       "&vmch { regulator-always-on; };"),
+    dt("Keep SD card LDO vsd33 on",
+       "&vsd33 { regulator-always-on; };"),
     dt("Log regulator over-current, do not switch off",
        R"(&pmic { over-current-action = "log"; };)"),
     both("Disable long-press reset of the power key",
@@ -303,7 +303,7 @@ constexpr hwknobs_config rows[] = {
     env("Do not load SPM firmware, stay in WFI when idle",
         "spm_fw", "off"),
     dt("Disable hardware clock gating of system bus",
-       "&infracfg { clock-gating-disable; };"),
+       "&sysbus { clock-gating-disable; };"),
     dt("Disable eMMC runtime suspend",
        "&mmc0 { runtime-pm-disable; };"),
 

@@ -5,8 +5,8 @@
 // GPU      Mali-T760, 4 shader cores, 253 to 650 MHz
 // DRAM     LPDDR3, 2 channels, 1866 / 1600 / 1270 Mbps
 // Display  1 DSI link, up to 60 Hz; panels nt35695_fhd_cmd, nt36672_fhd_video, r63419_wqhd_cmd
-// PMIC     rails vproc1, vproc2, vcore, vgpu, vdram, vs1, vs2; LDOs vio18, vio28, vemc33, vmch, vusb33, vcama, vibr,
-//          vcn18, vcn33, vrf18
+// PMIC     rails vproc1, vproc2, vcore, vgpu, vdram, vs1, vs2; LDOs vio18, vio28, vemmc33, vsd33, vusb33, vcam28,
+//          vvib, vconn18, vconn33, vrf18
 // Storage  eMMC 5.1
 // Modem    LTE
 // clang-format off: a table, one setting a row
@@ -204,8 +204,8 @@ constexpr hwknobs_config rows[] = {
        "&pmic { buck-force-pwm; };"),
     dt("Keep bucks and LDOs out of low-power mode in suspend",
        R"(&pmic { low-power-mode = "off"; };)"),
-    dt("Keep SD card LDO vmch on",
-       "&vmch { regulator-always-on; };"),
+    dt("Keep SD card LDO vsd33 on",
+       "&vsd33 { regulator-always-on; };"),
     dt("Log regulator over-current, do not switch off",
        R"(&pmic { over-current-action = "log"; };)"),
     both("Disable long-press reset of the power key",
@@ -335,7 +335,7 @@ constexpr hwknobs_config rows[] = {
     env("Do not load SPM firmware, stay in WFI when idle",
         "spm_fw", "off"),
     dt("Disable hardware clock gating of system bus",
-       "&infracfg { clock-gating-disable; };"),
+       "&sysbus { clock-gating-disable; };"),
     dt("Disable hardware clock gating of display",
        "&dispsys { clock-gating-disable; };"),
     dt("Disable eMMC runtime suspend",

@@ -4,7 +4,7 @@
 // GPU      Mali-T720, 2 shader cores, 350 to 560 MHz
 // DRAM     LPDDR3, 1 channel, 1333 / 1066 / 800 Mbps
 // Display  1 DSI link, up to 60 Hz; panels hx8394_wxga_video, ili9881_wxga_video, jd9365_wxga_video
-// PMIC     rails vproc, vcore, vgpu, vdram, vpa; LDOs vio18, vio28, vemc33, vmch, vusb33, vcama, vibr, vcn18
+// PMIC     rails vproc, vcore, vgpu, vdram, vpa; LDOs vio18, vio28, vemmc33, vsd33, vusb33, vcam28, vvib, vconn18
 // Storage  eMMC 5.0
 // Modem    LTE
 // clang-format off: a table, one setting a row
@@ -169,8 +169,8 @@ constexpr hwknobs_config rows[] = {
        "&pmic { buck-force-pwm; };"),
     dt("Keep bucks and LDOs out of low-power mode in suspend",
        R"(&pmic { low-power-mode = "off"; };)"),
-    dt("Keep SD card LDO vmch on",
-       "&vmch { regulator-always-on; };"),
+    dt("Keep SD card LDO vsd33 on",
+       "&vsd33 { regulator-always-on; };"),
     dt("Log regulator over-current, do not switch off",
        R"(&pmic { over-current-action = "log"; };)"),
     both("Disable long-press reset of the power key",
@@ -280,7 +280,7 @@ constexpr hwknobs_config rows[] = {
     dt("Print 26 MHz off and self-refresh counters at resume",
        "&spm { sleep-counter-log; };"),
     dt("Disable hardware clock gating of system bus",
-       "&infracfg { clock-gating-disable; };"),
+       "&sysbus { clock-gating-disable; };"),
     dt("Disable eMMC runtime suspend",
        "&mmc0 { runtime-pm-disable; };"),
 

@@ -5,8 +5,8 @@
 // GPU      Mali-T880, 2 shader cores, 270 to 900 MHz
 // DRAM     LPDDR3, 1 channel, 1866 / 1600 / 1333 Mbps
 // Display  1 DSI link, up to 60 Hz; panels nt36672_fhd_video, ft8716_fhd_video, td4310_fhd_video
-// PMIC     rails vproc, vcore, vgpu, vdram, vpa, vs1, vmodem; LDOs vio18, vio28, vemc33, vmch, vusb33, vcama, vibr,
-//          vcn18, vcn33, vrf18, vsim1, vaux18
+// PMIC     rails vproc, vcore, vgpu, vdram, vpa, vs1, vmodem; LDOs vio18, vio28, vemmc33, vsd33, vusb33, vcam28,
+//          vvib, vconn18, vconn33, vrf18, vsim1, vaux18
 // Storage  eMMC 5.1
 // Modem    LTE
 // clang-format off: a table, one setting a row
@@ -195,8 +195,8 @@ constexpr hwknobs_config rows[] = {
        "&pmic { buck-force-pwm; };"),
     dt("Keep bucks and LDOs out of low-power mode in suspend",
        R"(&pmic { low-power-mode = "off"; };)"),
-    dt("Keep SD card LDO vmch on",
-       "&vmch { regulator-always-on; };"),
+    dt("Keep SD card LDO vsd33 on",
+       "&vsd33 { regulator-always-on; };"),
     dt("Log regulator over-current, do not switch off",
        R"(&pmic { over-current-action = "log"; };)"),
     both("Disable long-press reset of the power key",
@@ -324,7 +324,7 @@ constexpr hwknobs_config rows[] = {
     env("Do not load SPM firmware, stay in WFI when idle",
         "spm_fw", "off"),
     dt("Disable hardware clock gating of system bus",
-       "&infracfg { clock-gating-disable; };"),
+       "&sysbus { clock-gating-disable; };"),
     dt("Disable eMMC runtime suspend",
        "&mmc0 { runtime-pm-disable; };"),
 

@@ -7,7 +7,7 @@
 // DRAM     LPDDR4X, 2 channels, 3733 / 3200 / 2400 / 1600 Mbps
 // Display  2 DSI links, up to 60 Hz; panels nt35695_fhd_cmd, s6e3ha6_wqhd_cmd, r63419_wqhd_cmd
 // PMIC     rails vproc1, vproc2, vcore, vmodem, vgpu, vdram1, vdram2, vs1, vs2, vsram_core; LDOs vio18, vio28,
-//          vemc33, vmch, vusb33, vcama, vibr, vcn18, vcn33, vrf18, vsim1, vaux18, vufs18
+//          vemmc33, vsd33, vusb33, vcam28, vvib, vconn18, vconn33, vrf18, vsim1, vaux18, vufs18
 // Storage  UFS 2.1
 // Modem    LTE
 // clang-format off: a table, one setting a row
@@ -228,8 +228,8 @@ constexpr hwknobs_config rows[] = {
        "&vproc2 { regulator-initial-mode = <1>; };"),
     dt("Keep bucks and LDOs out of low-power mode in suspend",
        R"(&pmic { low-power-mode = "off"; };)"),
-    dt("Keep SD card LDO vmch on",
-       "&vmch { regulator-always-on; };"),
+    dt("Keep SD card LDO vsd33 on",
+       "&vsd33 { regulator-always-on; };"),
     dt("Log regulator over-current, do not switch off",
        R"(&pmic { over-current-action = "log"; };)"),
     both("Disable long-press reset of the power key",
@@ -379,7 +379,7 @@ constexpr hwknobs_config rows[] = {
     env("Do not load SPM firmware, stay in WFI when idle",
         "spm_fw", "off"),
     dt("Disable hardware clock gating of system bus",
-       "&infracfg { clock-gating-disable; };"),
+       "&sysbus { clock-gating-disable; };"),
     dt("Disable hardware clock gating of display",
        "&dispsys { clock-gating-disable; };"),
 

@@ -4,8 +4,8 @@
 // GPU      Mali-G31, 1 shader core, 320 to 650 MHz
 // DRAM     LPDDR3, 1 channel, 1866 / 1600 / 1333 / 1066 Mbps
 // Display  1 DSI link, up to 60 Hz; panels ili9881_hdp_video, nt36525_hdp_video, hx83102_hdp_video
-// PMIC     rails vproc, vcore, vgpu, vdram, vpa, vs1; LDOs vio18, vio28, vemc33, vmch, vusb33, vcama, vibr, vcn18,
-//          vcn33, vrf18, vsim1, vaux18
+// PMIC     rails vproc, vcore, vgpu, vdram, vpa, vs1; LDOs vio18, vio28, vemmc33, vsd33, vusb33, vcam28, vvib,
+//          vconn18, vconn33, vrf18, vsim1, vaux18
 // Storage  eMMC 5.1
 // Modem    LTE
 // clang-format off: a table, one setting a row
@@ -215,8 +215,8 @@ constexpr hwknobs_config rows[] = {
        "&pmic { buck-force-pwm; };"),
     dt("Keep bucks and LDOs out of low-power mode in suspend",
        R"(&pmic { low-power-mode = "off"; };)"),
-    dt("Keep SD card LDO vmch on",
-       "&vmch { regulator-always-on; };"),
+    dt("Keep SD card LDO vsd33 on",
+       "&vsd33 { regulator-always-on; };"),
     dt("Log regulator over-current, do not switch off",
        R"(&pmic { over-current-action = "log"; };)"),
     both("Disable long-press reset of the power key",
@@ -361,7 +361,7 @@ constexpr hwknobs_config rows[] = {
          "spm_log", "on",
          "&spm { firmware-log; };"),
     dt("Disable hardware clock gating of system bus",
-       "&infracfg { clock-gating-disable; };"),
+       "&sysbus { clock-gating-disable; };"),
     dt("Disable eMMC runtime suspend",
        "&mmc0 { runtime-pm-disable; };"),
 

@@ -5,8 +5,8 @@
 // GPU      Mali-G52, 1 shader core, 300 to 680 MHz
 // DRAM     LPDDR4X, 1 channel, 3200 / 2400 / 1600 Mbps
 // Display  1 DSI link, up to 60 Hz; panels ili9882_hdp_video, nt36525b_hdp_video, hx83112_fhdp_video
-// PMIC     rails vproc1, vproc2, vcore, vgpu, vdram, vs1, vs2; LDOs vio18, vio28, vemc33, vmch, vusb33, vcama, vibr,
-//          vcn18, vcn33, vrf18, vsim1, vaux18
+// PMIC     rails vproc1, vproc2, vcore, vgpu, vdram, vs1, vs2; LDOs vio18, vio28, vemmc33, vsd33, vusb33, vcam28,
+//          vvib, vconn18, vconn33, vrf18, vsim1, vaux18
 // Storage  eMMC 5.1
 // Modem    LTE
 // clang-format off: a table, one setting a row
@@ -224,8 +224,8 @@ constexpr hwknobs_config rows[] = {
        "&pmic { buck-force-pwm; };"),
     dt("Keep bucks and LDOs out of low-power mode in suspend",
        R"(&pmic { low-power-mode = "off"; };)"),
-    dt("Keep SD card LDO vmch on",
-       "&vmch { regulator-always-on; };"),
+    dt("Keep SD card LDO vsd33 on",
+       "&vsd33 { regulator-always-on; };"),
     dt("Log regulator over-current, do not switch off",
        R"(&pmic { over-current-action = "log"; };)"),
     both("Disable long-press reset of the power key",
@@ -374,7 +374,7 @@ constexpr hwknobs_config rows[] = {
          "spm_log", "on",
          "&spm { firmware-log; };"),
     dt("Disable hardware clock gating of system bus",
-       "&infracfg { clock-gating-disable; };"),
+       "&sysbus { clock-gating-disable; };"),
     dt("Disable eMMC runtime suspend",
        "&mmc0 { runtime-pm-disable; };"),
 

@@ -6,8 +6,8 @@
 // DRAM     LPDDR4X, 2 channels, 4266 / 3733 / 3200 / 2400 / 1600 Mbps
 // Display  2 DSI links, DisplayPort, up to 90 Hz; panels nt36672c_fhdp_video, s6e3fc3_fhdp_cmd, rm692e5_fhdp_cmd
 // PMIC     rails vproc1, vproc2, vcore, vmodem, vgpu, vdram1, vdram2, vs1, vs2, vsram_core; LDOs vio18, vio28,
-//          vemc33, vmch, vusb33, vcama, vibr, vcn18, vcn33, vrf18, vsim1, vaux18, vufs18, vefuse, vbif28, vrf12,
-//          vxo22
+//          vemmc33, vsd33, vusb33, vcam28, vvib, vconn18, vconn33, vrf18, vsim1, vaux18, vufs18, vefuse, vbatif28,
+//          vrf12, vtcxo22
 // Storage  UFS 2.2
 // Modem    LTE
 // clang-format off: a table, one setting a row
@@ -291,8 +291,8 @@ constexpr hwknobs_config rows[] = {
        "&vproc2 { regulator-initial-mode = <1>; };"),
     dt("Keep bucks and LDOs out of low-power mode in suspend",
        R"(&pmic { low-power-mode = "off"; };)"),
-    dt("Keep SD card LDO vmch on",
-       "&vmch { regulator-always-on; };"),
+    dt("Keep SD card LDO vsd33 on",
+       "&vsd33 { regulator-always-on; };"),
     dt("Log regulator over-current, do not switch off",
        R"(&pmic { over-current-action = "log"; };)"),
     both("Disable long-press reset of the power key",
@@ -495,7 +495,7 @@ constexpr hwknobs_config rows[] = {
     env("Do not load SPM firmware, stay in WFI when idle",
         "spm_fw", "off"),
     dt("Disable hardware clock gating of system bus",
-       "&infracfg { clock-gating-disable; };"),
+       "&sysbus { clock-gating-disable; };"),
 
     // TOOL: logs, trace and bring-up
     dt("Enable early console on UART",

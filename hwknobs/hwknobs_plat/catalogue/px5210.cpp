@@ -5,8 +5,9 @@
 // GPU      Mali-G57, 2 shader cores, 350 to 950 MHz
 // DRAM     LPDDR4X, 2 channels, 4266 / 3200 / 2400 / 1600 Mbps
 // Display  1 DSI link, up to 120 Hz; panels nt36672c_fhdp_video, td4375_fhdp_video, rm692c9_fhdp_cmd
-// PMIC     rails vproc1, vproc2, vcore, vgpu, vdram, vs1, vs2, vmodem, vsram_core; LDOs vio18, vio28, vemc33, vmch,
-//          vusb33, vcama, vibr, vcn18, vcn33, vrf18, vsim1, vaux18, vufs18, vefuse, vbif28, vrf12, vxo22
+// PMIC     rails vproc1, vproc2, vcore, vgpu, vdram, vs1, vs2, vmodem, vsram_core; LDOs vio18, vio28, vemmc33,
+//          vsd33, vusb33, vcam28, vvib, vconn18, vconn33, vrf18, vsim1, vaux18, vufs18, vefuse, vbatif28, vrf12,
+//          vtcxo22
 // Storage  UFS 2.2
 // Modem    5G
 // clang-format off: a table, one setting a row
@@ -272,8 +273,8 @@ constexpr hwknobs_config rows[] = {
        "&vproc2 { regulator-initial-mode = <1>; };"),
     dt("Keep bucks and LDOs out of low-power mode in suspend",
        R"(&pmic { low-power-mode = "off"; };)"),
-    dt("Keep SD card LDO vmch on",
-       "&vmch { regulator-always-on; };"),
+    dt("Keep SD card LDO vsd33 on",
+       "&vsd33 { regulator-always-on; };"),
     dt("Log regulator over-current, do not switch off",
        R"(&pmic { over-current-action = "log"; };)"),
     both("Disable long-press reset of the power key",
@@ -464,7 +465,7 @@ constexpr hwknobs_config rows[] = {
          "spm_log", "on",
          "&spm { firmware-log; };"),
     dt("Disable hardware clock gating of system bus",
-       "&infracfg { clock-gating-disable; };"),
+       "&sysbus { clock-gating-disable; };"),
 
     // TOOL: logs, trace and bring-up
     dt("Enable early console on UART",

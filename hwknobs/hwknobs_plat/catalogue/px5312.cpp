@@ -6,8 +6,8 @@
 // DRAM     LPDDR4X, 4 channels, 4266 / 3733 / 3200 / 2400 / 1600 Mbps
 // Display  2 DSI links, DisplayPort, up to 120 Hz; panels s6e3hc3_wqhdp_cmd, nt37701_fhdp_cmd, rm692e5_fhdp_cmd
 // PMIC     rails vproc1, vproc2, vproc3, vcore, vmodem, vgpu11, vgpu12, vsram_core, vdram1, vdram2, vs1, vs2, vs3;
-//          LDOs vio18, vio28, vemc33, vmch, vusb33, vcama, vibr, vcn18, vcn33, vrf18, vsim1, vaux18, vufs18, vefuse,
-//          vbif28, vrf12, vxo22
+//          LDOs vio18, vio28, vemmc33, vsd33, vusb33, vcam28, vvib, vconn18, vconn33, vrf18, vsim1, vaux18, vufs18,
+//          vefuse, vbatif28, vrf12, vtcxo22
 // Storage  UFS 3.0
 // Modem    5G
 // clang-format off: a table, one setting a row
@@ -554,7 +554,7 @@ constexpr hwknobs_config rows[] = {
     env("Do not load SPM firmware, stay in WFI when idle",
         "spm_fw", "off"),
     dt("Disable hardware clock gating of system bus",
-       "&infracfg { clock-gating-disable; };"),
+       "&sysbus { clock-gating-disable; };"),
     dt("Disable hardware clock gating of display",
        "&dispsys { clock-gating-disable; };"),
 

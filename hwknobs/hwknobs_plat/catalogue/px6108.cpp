@@ -5,8 +5,8 @@
 // GPU      Mali-G57, 1 shader core, 320 to 880 MHz
 // DRAM     LPDDR4X, 2 channels, 4266 / 3200 / 2400 / 1600 Mbps
 // Display  1 DSI link, up to 90 Hz; panels ili9883_hdp_video, nt36672e_fhdp_video, ft8725_fhdp_video
-// PMIC     rails vproc1, vproc2, vcore, vgpu, vdram, vs1, vs2, vmodem; LDOs vio18, vio28, vemc33, vmch, vusb33,
-//          vcama, vibr, vcn18, vcn33, vrf18, vsim1, vaux18, vufs18
+// PMIC     rails vproc1, vproc2, vcore, vgpu, vdram, vs1, vs2, vmodem; LDOs vio18, vio28, vemmc33, vsd33, vusb33,
+//          vcam28, vvib, vconn18, vconn33, vrf18, vsim1, vaux18, vufs18
 // Storage  eMMC 5.1
 // Modem    5G
 // clang-format off: a table, one setting a row
@@ -280,8 +280,8 @@ constexpr hwknobs_config rows[] = {
        "&vproc2 { regulator-initial-mode = <1>; };"),
     dt(127, PMIC, "pmic_lp_mode_disable", "Keep bucks and LDOs out of low-power mode in suspend",
        R"(&pmic { low-power-mode = "off"; };)"),
-    dt(128, PMIC, "ldo_vmch_on", "Keep SD card LDO vmch on",
-       "&vmch { regulator-always-on; };"),
+    dt(128, PMIC, "ldo_vsd33_on", "Keep SD card LDO vsd33 on",
+       "&vsd33 { regulator-always-on; };"),
     dt(129, PMIC, "pmic_oc_log_only", "Log regulator over-current, do not switch off",
        R"(&pmic { over-current-action = "log"; };)"),
     both(130, PMIC, "pwrkey_reset_disable", "Disable long-press reset of the power key",
@@ -462,7 +462,7 @@ constexpr hwknobs_config rows[] = {
          "spm_log", "on",
          "&spm { firmware-log; };"),
     dt(213, LPM, "clkgate_bus_disable", "Disable hardware clock gating of system bus",
-       "&infracfg { clock-gating-disable; };"),
+       "&sysbus { clock-gating-disable; };"),
     dt(214, LPM, "emmc_rpm_disable", "Disable eMMC runtime suspend",
        "&mmc0 { runtime-pm-disable; };"),
 

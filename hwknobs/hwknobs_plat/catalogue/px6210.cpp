@@ -5,8 +5,8 @@
 // GPU      Mali-G68, 4 shader cores, 350 to 900 MHz
 // DRAM     LPDDR5, 2 channels, 5500 / 4266 / 3200 / 2400 / 1600 Mbps
 // Display  1 DSI link, up to 120 Hz; panels nt36672e_fhdp_video, td4377_fhdp_video, rm692h5_fhdp_cmd
-// PMIC     rails vproc1, vproc2, vcore, vmodem, vgpu, vdram1, vdram2, vs1, vs2; LDOs vio18, vio28, vemc33, vmch,
-//          vusb33, vcama, vibr, vcn18, vcn33, vrf18, vsim1, vaux18, vufs18, vefuse, vbif28, vrf12, vxo22
+// PMIC     rails vproc1, vproc2, vcore, vmodem, vgpu, vdram1, vdram2, vs1, vs2; LDOs vio18, vio28, vemmc33, vsd33,
+//          vusb33, vcam28, vvib, vconn18, vconn33, vrf18, vsim1, vaux18, vufs18, vefuse, vbatif28, vrf12, vtcxo22
 // Storage  UFS 2.2
 // Modem    5G
 // clang-format off: a table, one setting a row
@@ -292,8 +292,8 @@ constexpr hwknobs_config rows[] = {
        "&vproc2 { regulator-initial-mode = <1>; };"),
     dt(133, PMIC, "pmic_lp_mode_disable", "Keep bucks and LDOs out of low-power mode in suspend",
        R"(&pmic { low-power-mode = "off"; };)"),
-    dt(134, PMIC, "ldo_vmch_on", "Keep SD card LDO vmch on",
-       "&vmch { regulator-always-on; };"),
+    dt(134, PMIC, "ldo_vsd33_on", "Keep SD card LDO vsd33 on",
+       "&vsd33 { regulator-always-on; };"),
     dt(135, PMIC, "pmic_oc_log_only", "Log regulator over-current, do not switch off",
        R"(&pmic { over-current-action = "log"; };)"),
     both(136, PMIC, "pwrkey_reset_disable", "Disable long-press reset of the power key",
@@ -488,7 +488,7 @@ constexpr hwknobs_config rows[] = {
          "spm_log", "on",
          "&spm { firmware-log; };"),
     dt(232, LPM, "clkgate_bus_disable", "Disable hardware clock gating of system bus",
-       "&infracfg { clock-gating-disable; };"),
+       "&sysbus { clock-gating-disable; };"),
 
     // HYP: hypervisor and secure world
     both(233, HYP, "pkvm_enable", "Enable protected VMs (pKVM)",

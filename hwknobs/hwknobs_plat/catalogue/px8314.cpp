@@ -7,8 +7,8 @@
 // DRAM     LPDDR5X, 4 channels, 9600 / 8533 / 7500 / 6400 / 4266 / 3200 / 1600 Mbps, inline ECC
 // Display  2 DSI links, DisplayPort, up to 144 Hz; panels s6e3hc5_wqhdp_cmd, nt37802_wqhdp_cmd, rm692k9_wqhdp_cmd
 // PMIC     rails vproc1, vproc2, vproc3, vcore, vmodem, vgpu11, vgpu12, vsram_core, vdram1, vdram2, vs1, vs2, vs3,
-//          vapu; LDOs vio18, vio28, vemc33, vmch, vusb33, vcama, vibr, vcn18, vcn33, vrf18, vsim1, vaux18, vufs18,
-//          vefuse, vbif28, vrf12, vxo22
+//          vapu; LDOs vio18, vio28, vemmc33, vsd33, vusb33, vcam28, vvib, vconn18, vconn33, vrf18, vsim1, vaux18,
+//          vufs18, vefuse, vbatif28, vrf12, vtcxo22
 // Storage  UFS 4.0
 // Modem    5G
 // clang-format off: a table, one setting a row
@@ -614,7 +614,7 @@ constexpr hwknobs_config rows[] = {
          "spm_log", "on",
          "&spm { firmware-log; };"),
     dt(299, LPM, "clkgate_bus_disable", "Disable hardware clock gating of system bus",
-       "&infracfg { clock-gating-disable; };"),
+       "&sysbus { clock-gating-disable; };"),
 
     // HYP: hypervisor and secure world
     both(300, HYP, "pkvm_enable", "Enable protected VMs (pKVM)",
