@@ -13,7 +13,7 @@ struct hwknobs_image {
     std::string name;
     const hwknobs_plat* plat;
     bool boot_failure_recovery = false;
-    std::vector<config_item> items;  ///< in the order of selection, each catalogue entry at most once
+    std::vector<config_item> items;  ///< in the order of selection
 
     /// A null `plat` stands for the platform that the program runs on. Ends the process for an unknown one.
     hwknobs_image(const char* name, const char* plat, const std::vector<config_item>& items);

@@ -11,7 +11,6 @@
 
 namespace {
 
-constexpr std::uint32_t version_with_ids = 2;
 constexpr long config_number_max = 1024;
 
 struct selected_config {
@@ -78,12 +77,12 @@ void set_unsigned_argument(config_item& item, const char* value) {
     unsigned long number = 0;
     try {
         number = std::stoul(value, nullptr, 0);
-        if (number > std::numeric_limits<std::uint32_t>::max()) throw std::out_of_range(value);
     } catch (const std::invalid_argument&) {
         error("not a number %s", value);
     } catch (const std::out_of_range&) {
-        error("config number out of range (uint32) %s", value);
+        number = std::numeric_limits<unsigned long>::max();
     }
+    if (number > std::numeric_limits<std::uint32_t>::max()) error("config number out of range (uint32) %s", value);
     if (item.arg_kind != config_arg_kind::uint32) argument_mismatch(item);
     item.arg = static_cast<std::uint32_t>(number);
 }

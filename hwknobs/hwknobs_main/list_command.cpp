@@ -15,8 +15,6 @@ namespace {
 
 using u64 = std::uint64_t;
 
-constexpr std::uint32_t version_with_groups = 2;
-
 struct group_name {
     std::uint32_t code;
     const char* name;
@@ -164,7 +162,7 @@ void __print_list(const hwknobs_plat* plat, u64 mask) {
 
 int run_list_command(const global_options& global, int argc, char** argv) {
     const hwknobs_plat* const plat = hwknobs_get_plat(global.plat);
-    if (plat->version != version_with_groups) {
+    if (plat->version != version_with_ids) {
         print_version_0(*plat);
         return 0;
     }
@@ -175,7 +173,7 @@ int run_list_command(const global_options& global, int argc, char** argv) {
 
 int run_list_group_command(const global_options& global, int /*argc*/, char** /*argv*/) {
     const hwknobs_plat* const plat = hwknobs_get_plat(global.plat);
-    if (plat->version != version_with_groups) {
+    if (plat->version != version_with_ids) {
         std::puts("This platfrom does not support groups.");
         return 0;
     }

@@ -94,11 +94,11 @@ int run(int argc, char** argv) {
     error("Unknown command '%s'", argv[0]);
 }
 
-// A partition that is opened while descriptor 1 is free would become the standard output.
+// A partition that is opened while descriptor 1 is free would become the standard output. What takes its place is open
+// the wrong way round, so that output that nobody gets is still a failure.
 void occupy_standard_descriptors() {
-    int fd = 0;
-    while (fd >= 0 && fd <= STDERR_FILENO) fd = open("/dev/null", O_RDWR);
-    if (fd >= 0) close(fd);
+    for (const int fd : {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO})
+        if (fcntl(fd, F_GETFD) == -1) static_cast<void>(open("/dev/null", fd == STDIN_FILENO ? O_WRONLY : O_RDONLY));
 }
 
 // Output that could not be written must not pass for success.

@@ -84,7 +84,7 @@ bool check_platform(const hwknobs_plat& plat) {
 }
 
 bool check_configs(const hwknobs_plat& plat) {
-    if (plat.version != 2) return true;
+    if (plat.version != version_with_ids) return true;
     std::span rows(plat.configs, plat.count);
     if (!rows.empty() && rows.back().id == 0) rows = rows.first(rows.size() - 1);  // a terminating row
     bool good = true;

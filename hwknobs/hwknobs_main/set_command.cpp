@@ -58,6 +58,10 @@ void remove_items(hwknobs_image& image, const std::vector<config_item>& items) {
             std::printf("warn: cannot find item %s to delete\n", std::string(item.name).c_str());
 }
 
+void update_items(hwknobs_image& image, const std::vector<config_item>& items) {
+    for (const config_item& item : items) image.item_update(item);
+}
+
 // The stored setting with the changes made to it, or null when the partition holds none.
 std::unique_ptr<hwknobs_image> change_stored(const global_options& global, set_mode mode,
                                              const std::vector<config_item>& items) {
@@ -66,9 +70,7 @@ std::unique_ptr<hwknobs_image> change_stored(const global_options& global, set_m
     // Equality it is: naming the stored platform is refused, naming another one passes.
     if (global.plat != nullptr && std::string_view(global.plat) == image->plat->name)
         error("platform name mismatch between setting and partition");
-    if (mode == set_mode::remove) remove_items(*image, items);
-    else
-        for (const config_item& item : items) image->item_update(item);
+    (mode == set_mode::remove ? remove_items : update_items)(*image, items);
     return image;
 }
 

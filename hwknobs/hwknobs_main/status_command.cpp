@@ -19,6 +19,11 @@ namespace {
 constexpr const char* setting_node = "/proc/device-tree/chosen/hwknobs";
 constexpr int shown_items_max = 1024;
 
+// The lines that reports of this command's broken invariants name.
+constexpr int missing_property_line = 583;
+constexpr int item_name_line = 594;
+constexpr int option_index_line = 630;
+
 void check(bool holds, const char* expr, int line) {
     if (!holds) __error(expr, "hwknobs/hwknobs_main", line, "bool hwknobs_system_status()");
 }
@@ -42,7 +47,7 @@ void print_system_items(int dirfd) {
     for (int i = 0; i < shown_items_max; ++i) {
         std::array<char, 32> item_name{};
         check(std::snprintf(item_name.data(), item_name.size(), "item%d", i) > 0,
-              "snprintf(item_name, sizeof(item_name), \"item%d\", i) > 0", __LINE__);
+              "snprintf(item_name, sizeof(item_name), \"item%d\", i) > 0", item_name_line);
         const auto text = dt_read_string(dirfd, item_name.data());
         if (!text) return;
         std::printf("   %s\n", text->c_str());
@@ -59,7 +64,8 @@ bool hwknobs_system_status() {
     const auto date = dt_read_string(node.get(), "timestamp");
     const auto platform = dt_read_string(node.get(), "platform");
     const auto failure_recovery = dt_read_string(node.get(), "boot_failure_recovery");
-    check(command && date && platform && failure_recovery, "command && date && platform && failure_recovery", __LINE__);
+    check(command && date && platform && failure_recovery, "command && date && platform && failure_recovery",
+          missing_property_line);
     std::printf("<<system>> hwknobs '%s' command at %s\n", command->c_str(), date->c_str());
     std::printf("   plat %s boot recovery %s\n", platform->c_str(), failure_recovery->c_str());
     if (*command == "set") print_system_items(node.get());
@@ -79,7 +85,7 @@ int parse_status_command(const char* partition, int argc, char** argv) {
     const int result = getopt_long(argc, argv, "", long_options, &option_index);
     if (result > 0) std::exit(1);
     if (result == 0) {
-        const std::string_view name = option_name(long_options, option_index, __LINE__,
+        const std::string_view name = option_name(long_options, option_index, option_index_line,
                                                   "int parse_status_command(const char *, const int, char **)");
         if (name == "partition") return hwknobs_partimage_dump(partition) ? 1 : 0;
         if (name != "system") error("Unknown option %s\n", long_options[option_index].name);

@@ -41,6 +41,9 @@ enum hwknobs_group : std::uint32_t {
 
 inline constexpr std::uint32_t hwknobs_group_count = 14;
 
+/// The version of tables whose rows have ids, groups and names; the other is 0.
+inline constexpr std::uint32_t version_with_ids = 2;
+
 /// One platform. A version-2 table has exactly `count` rows, each with an id, a group and a name. In a version-0
 /// table `count` is 0, the rows go up to an end row, and a setting's number is its position, counted from 1.
 struct hwknobs_plat {

@@ -8,6 +8,7 @@
 #include <string_view>
 
 // Name and hardware code. Only the low 16 bits of a code are compared.
+// clang-format off: a list, one platform a line
 #define HWKNOBS_PLATFORMS(platform)                                                                                 \
     platform(px0000, 0x0000) platform(px1104, 0x1104) platform(px1206, 0x1206) platform(px1310, 0x1310)             \
         platform(px2104, 0x2104) platform(px2208, 0x2208) platform(px2312, 0x2312) platform(px3104, 0x3104)         \
@@ -16,6 +17,7 @@
                     platform(px6108, 0x6108) platform(px6210, 0x6210) platform(px6314, 0x6314)                      \
                         platform(px7108, 0x7108) platform(px7210, 0x7210) platform(px7314, 0x7314)                  \
                             platform(px8210, 0x8210) platform(px8314, 0x8314)
+// clang-format on
 
 #define HWKNOBS_DECLARE_PLATFORM(name, code) extern const hwknobs_plat name;
 HWKNOBS_PLATFORMS(HWKNOBS_DECLARE_PLATFORM)

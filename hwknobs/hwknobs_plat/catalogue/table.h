@@ -98,7 +98,7 @@ template <const auto& Rows>
 consteval hwknobs_plat version_2(const char* name) {
     constexpr verdict found = check_version_2(Rows);
     static_assert(row_keeps_rules<found.row, found.broken>::value);
-    return {hw_code_of(name), name, Rows, 2, std::size(Rows)};
+    return {hw_code_of(name), name, Rows, version_with_ids, std::size(Rows)};
 }
 
 }  // namespace catalogue
