@@ -96,6 +96,8 @@ xml() { hwknobs xmlconfig-set <<<"<hwknobs name='n' platform='px8314'>$1</hwknob
     [[ $(bytes 0x408 14) == "$(printf 'B.c=x y\0a=2\0\0\0' | od -An -tx1 | tr -d ' \n')" && $(bytes 0x200 2) == 6e00 ]]
     run -0 xml '<plsetting><item key="x"/></plsetting>' # no source, no blob
     [[ ${lines[2]} == "WARN: skip null value 0x"*", (nil)" && $(bytes 0x804 4) == 00000000 ]]
+    hwknobs xmlconfig-set <<<"<hwknobs name='a2345678901234567890123456789012345' platform='px8314'/>"
+    [[ $(bytes 0x21e 2) == 3100 ]] # cut to 31 characters
     xml '<dtbo>
 <![CDATA[lost]]></dtbo>' # the first child alone counts, a newline here
     [[ $(grep -c lost "$DEV/data/source") == 0 ]]

@@ -46,7 +46,7 @@ DEBUG: /dts-v1/;"* ]]
 
 @test "the child starts with default signals, the tool survives an ignored SIGCHLD" {
     compiler dtc <<<'grep -E "^Sig(Ign|Blk)" /proc/self/status >signals; exec dtc "$@"'
-    run -0 device run sh -c 'trap "" CHLD PIPE INT; exec hwknobs setname kaslr_disable'
+    run -0 device run sh -c 'trap "" CHLD PIPE INT; exec env --block-signal=USR1 hwknobs setname kaslr_disable'
     [[ ! -s $DEV/data/signals || $(tr -d '\n' <"$DEV/data/signals") =~ ^SigBlk:.0+SigIgn:.0+$ ]]
     run -1 device run sh -c 'trap "" CHLD PIPE INT; exec hwknobs status --partition'
     [[ $output == *"kaslr_disable"* ]]

@@ -43,6 +43,9 @@ expected_image() {
     hwknobs --file=out setname kaslr_disable
     is_blank
     [[ $(stat -c '%s %a' "$DEV/data/out") == "$((0xa00 + 1008)) 600" ]]
+    compiler blob <<<'cat >/dev/null; printf "b%.0s" $(seq 1024)' # of no size that needs to be rounded
+    hwknobs --file=even setname kaslr_disable
+    [[ $(stat -c %s "$DEV/data/even") == $((0xa00 + 1024)) ]]
     hwknobs --file=out setname -r kaslr_disable
     [[ $(stat -c %s "$DEV/data/out") == $((0x20e00)) ]]
     expect 1 "ERROR: Cannot read file out dt blob (No data available)" \
@@ -70,6 +73,8 @@ expected_image() {
     run -0 hwknobs --verbose clear --all
     [[ $output == "DEBUG: hwknobs_partimage_clear: filename /dev/block/by-name/boot_para action 0
 DEBUG: start offset 0 end offset 1048577" ]]
+    truncate -s $((0x8000000)) "$DEV/boot_para"
+    expect 0 "" hwknobs clear
     truncate -s $((0x8000001)) "$DEV/boot_para"
     expect 1 "ERROR: hwknobs_partimage_clear: partition size too large" hwknobs clear
     expect 1 "ERROR: Cannot open output file none" hwknobs --file=none clear

@@ -80,6 +80,8 @@ Skip delete option" hwknobs setname -d kaslr_disable
 @test "a device boots with what was set" {
     expect 0 "<<system>> hwknobs setting does not take effect" hwknobs status
     hwknobs setname -r enable_gpu_acp perf_stat_events scycles
+    run -1 hwknobs status --partition
+    [[ ${lines[0]} == *" failure recovery 1" && ${lines[2]} == "  perf_event=cycles" ]]
     device reboot
     run -0 hwknobs status --system --partition
     [[ $(no_timestamp <<<"$output" | no_id) == "<<system>> hwknobs 'set' command at TIME

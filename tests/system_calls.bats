@@ -16,3 +16,8 @@ load device
         [[ ${lines[-1]//$partition/PART} == "$said"* ]] || { echo "$command $inject: $output"; return 1; }
     done <"$data/failing_calls.txt"
 }
+
+@test "what is written is written through" {
+    device run env ASAN_OPTIONS=detect_leaks=0 strace -o log -P /dev/block/by-name/boot_para hwknobs setname kaslr_disable
+    [[ $(grep -c 'O_RDWR.*O_SYNC' "$DEV/data/log") == 2 ]]
+}

@@ -35,17 +35,23 @@ char* fail(const char* message) {
 // A user who has many pipes open may be granted less than the usual 1 MiB: takes the most there is.
 void enlarge_pipe(const unique_fd& end) {
     const int current = fcntl(end.get(), F_GETPIPE_SZ);
+    if (current < 0) return;
     for (int size = pipe_size_wanted; size > current; size /= 2)
         if (fcntl(end.get(), F_SETPIPE_SZ, size) != -1) return;
 }
 
-// In the child: returns only when the shell cannot be executed.
-char* run_shell(pipe_ends& in, pipe_ends& out) {
+// In the child, which must not go on as a second parent: what it printed then would be taken for the source.
+[[noreturn]] void give_up(const char* message) {
+    std::perror(message);
+    _exit(1);
+}
+
+[[noreturn]] void run_shell(pipe_ends& in, pipe_ends& out) {
     out.read.reset();
     in.write.reset();
-    if (dup2(out.write.get(), STDOUT_FILENO) == -1) return fail("dup2 error");
+    if (dup2(out.write.get(), STDOUT_FILENO) == -1) give_up("dup2 error");
     out.write.reset();
-    if (dup2(in.read.get(), STDIN_FILENO) == -1) return fail("dup2 error");
+    if (dup2(in.read.get(), STDIN_FILENO) == -1) give_up("dup2 error");
     std::array<char, 256> command{};
     std::strncpy(command.data(), hwknobs_dt_compiler(), command.size() - 1);
     std::strncat(command.data(), compiler_options, command.size() - 1 - std::strlen(command.data()));
@@ -53,7 +59,7 @@ char* run_shell(pipe_ends& in, pipe_ends& out) {
     char run_command[] = "-c";
     char* const argv[] = {shell, run_command, command.data(), nullptr};
     execvp(shell, argv);
-    return fail("execvp error");
+    give_up("execvp error");
 }
 
 char* collect_source(const unique_fd& out) {
@@ -91,7 +97,7 @@ char* hwknobs_blob_to_dts(const char* blob, long length) {
     const child_signals signals;
     const pid_t child = fork_child();
     if (child < 0) return fail("fork error");
-    if (child == 0) return run_shell(in, out);
+    if (child == 0) run_shell(in, out);
 
     out.write.reset();
     in.read.reset();
