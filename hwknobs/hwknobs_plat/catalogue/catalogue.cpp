@@ -1,5 +1,7 @@
 #include "hwknobs_plat/catalogue/platforms.h"
 
+#include <iterator>
+
 namespace {
 
 #define HWKNOBS_POINT_AT_PLATFORM(name, code) &(name),
@@ -24,6 +26,7 @@ constexpr bool names_are_platform_names() {
     return true;
 }
 
+static_assert(std::size(platforms) == 24, "a platform was lost, or added without a thought of this number");
 static_assert(identities_are_distinct(), "two platforms share a name or a hardware code");
 static_assert(names_are_platform_names(), "a platform's name is px and four digits");
 
