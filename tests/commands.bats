@@ -29,8 +29,7 @@ load device
     expect 1 "[PL]: SBOOT enable, Image authentication FAIL
 ERROR: hwknobs_sec_boot_status: Can't open atag,lk-sec entry" hwknobs auth-status
     mkdir "$DEV/proc/device-tree/chosen/atag,lk-sec"
-    run -1 hwknobs auth-status
-    [[ ${lines[-1]} == "ERROR: hwknobs_sec_boot_status: Can't read atag,lk-sec entry" ]]
+    ends_in 1 "ERROR: hwknobs_sec_boot_status: Can't read atag,lk-sec entry" hwknobs auth-status
     rm -r "$DEV/proc/device-tree/chosen"
     expect 0 "hwknobs setting does not take effect" hwknobs auth-status
 }
@@ -108,14 +107,11 @@ xml() { hwknobs xmlconfig-set <<<"<hwknobs name='n' platform='px8314'>$1</hwknob
     cp "$DEV/boot_para" "$DEV/before"
     local document said
     while IFS='|' read -r document said; do
-        run -1 hwknobs xmlconfig-set <<<"$(printf '%b' "$document")"
-        [[ ${lines[-1]} == "ERROR: $said" ]] || { echo "$document: $output"; return 1; }
+        ends_in 1 "ERROR: $said" hwknobs xmlconfig-set <<<"$(printf '%b' "$document")"
         cmp "$DEV/boot_para" "$DEV/before"
     done <"$data/refused_documents.txt"
     head -c 4096 /dev/zero | tr '\0' ' ' >"$DEV/data/large"
-    run -1 hwknobs xmlconfig-set large
-    [[ ${lines[-1]} == $'\t> n < sizeof(buf)' ]]
-    run -1 hwknobs xmlconfig-set none
-    [[ ${lines[-1]} == "ERROR: Can't open input file none, 2" ]]
+    ends_in 1 $'\t> n < sizeof(buf)' hwknobs xmlconfig-set large
+    ends_in 1 "ERROR: Can't open input file none, 2" hwknobs xmlconfig-set none
     cmp "$DEV/boot_para" "$DEV/before"
 }

@@ -19,8 +19,7 @@ DEBUG: /dts-v1/;"* ]]
 @test "a compiler that is gone before it has read its source" {
     local strace=(env ASAN_OPTIONS=detect_leaks=0 strace -o /dev/null -e inject=poll:delay_enter=300000:when=1)
     compiler dtc <<<'exit 0' # it read nothing, and says that all went well
-    run -1 device run "${strace[@]}" hwknobs setname kaslr_disable
-    [[ ${lines[-1]} == "ERROR: Write fragment error" ]]
+    ends_in 1 "ERROR: Write fragment error" device run "${strace[@]}" hwknobs setname kaslr_disable
     compiler dtc <<<'echo why >&2; exit 4'
     run -1 device run "${strace[@]}" hwknobs setname kaslr_disable
     [[ $output == *"why"*"ERROR: DTC './dtc' failed (status 4)" ]]

@@ -22,6 +22,12 @@ expect() {
     fi
 }
 
+# ends_in STATUS LINE COMMAND...: the same for the last line alone.
+ends_in() {
+    run "${@:3}"
+    [[ $status == "$1" && ${lines[-1]} == "$2" ]] || { echo "command: ${*:3}"; echo "$status: $output"; return 1; }
+}
+
 # A compiler of that name in the device's data folder, which is the working directory inside. Its body is on stdin.
 compiler() {
     { echo '#!/bin/sh'; cat; } >"$DEV/data/$1"

@@ -42,8 +42,8 @@ load device
 ERROR: hwknobs set with unknown option" hwknobs set -x 1
     expect 1 "ERROR: invalid config number -m" hwknobs set -d "$(id_of kaslr_disable)" -m 5
     expect 1 "$mismatch" hwknobs --plat=px8314 setname -m kmemleak_disable
-    run -1 hwknobs setname perf_stat_events "s$(printf 'x%.0s' {1..1000})"
-    [[ ${lines[-1]} == "ERROR: plenv settings need 1012 bytes, the partition holds 1003" ]]
+    ends_in 1 "ERROR: plenv settings need 1012 bytes, the partition holds 1003" \
+        hwknobs setname perf_stat_events "s$(printf 'x%.0s' {1..1000})"
     DTCBIN=/none run -1 hwknobs setname -m kmemleak_disable
     [[ $output == "ERROR: Cannot change the setting in "*"the stored items are unknown" ]]
     cmp "$DEV/boot_para" "$DEV/before"

@@ -2,8 +2,7 @@
 # System calls that fail, one at a time: each ends in its message and status 1.
 load device
 
-# Only the calls that come after the partition's first opening, or that touch it, are meant: a path filter and the
-# call's number pick them out.
+# Of the calls of one name a path filter and a number pick out the one that is to fail.
 @test "a failing call ends in its message" {
     hwknobs setname kaslr_disable
     cp "$DEV/boot_para" "$DEV/good"

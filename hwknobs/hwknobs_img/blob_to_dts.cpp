@@ -1,6 +1,7 @@
 // Runs the compiler through the shell, with the blob on its standard input, and takes the source from its standard
 // output. The blob is written at once and the output read only after the child's end, so both have to fit into the
 // pipes: these are made as large as the system grants, which is more than the largest blob and its source take.
+#include "hwknobs_base/malloced.h"
 #include "hwknobs_img/child_process.h"
 #include "hwknobs_img/dt_compiler.h"
 
@@ -12,7 +13,6 @@
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
-#include <memory>
 
 namespace {
 
@@ -21,11 +21,6 @@ constexpr std::size_t read_size = 4096;
 
 // What an unprivileged process may ask for where nobody changed /proc/sys/fs/pipe-max-size.
 constexpr int pipe_size_wanted = 1 << 20;
-
-struct free_memory {
-    void operator()(char* text) const { std::free(text); }
-};
-using malloced_text = std::unique_ptr<char, free_memory>;
 
 char* fail(const char* message) {
     std::perror(message);
@@ -65,7 +60,7 @@ void enlarge_pipe(const unique_fd& end) {
 char* collect_source(const unique_fd& out) {
     std::size_t capacity = read_size;
     std::size_t size = 0;
-    malloced_text text(static_cast<char*>(std::malloc(capacity)));
+    malloced<char> text(static_cast<char*>(std::malloc(capacity)));
     if (text == nullptr) return fail("alloc buffer error");
     for (;;) {
         const ssize_t n = read(out.get(), text.get() + size, capacity - size);

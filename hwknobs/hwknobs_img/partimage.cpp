@@ -1,6 +1,7 @@
 #include "hwknobs_img/partimage.h"
 
 #include "hwknobs_base/diagnostics.h"
+#include "hwknobs_base/malloced.h"
 #include "hwknobs_base/unique_fd.h"
 #include "hwknobs_img/dt_compiler.h"
 
@@ -8,7 +9,6 @@
 
 #include <cerrno>
 #include <cstdio>
-#include <cstdlib>
 #include <cstring>
 #include <string_view>
 
@@ -74,7 +74,7 @@ std::optional<setting_head> read_head(const unique_fd& file, const char* path) {
 }
 
 std::string convert_to_source(const char* blob) {
-    const std::unique_ptr<char, decltype(&std::free)> dts(hwknobs_blob_to_dts(blob, blob_capacity), &std::free);
+    const malloced<char> dts(hwknobs_blob_to_dts(blob, blob_capacity));
     if (dts == nullptr) error("No hwknobs device tree blob\n");
     return dts.get();
 }

@@ -1,6 +1,7 @@
 #include "hwknobs_img/partimage_writer.h"
 
 #include "hwknobs_base/diagnostics.h"
+#include "hwknobs_base/malloced.h"
 #include "hwknobs_base/unique_fd.h"
 #include "hwknobs_img/dt_compiler.h"
 
@@ -9,9 +10,7 @@
 #include <algorithm>
 #include <array>
 #include <cerrno>
-#include <cstdlib>
 #include <cstring>
-#include <memory>
 #include <string_view>
 
 namespace {
@@ -53,14 +52,9 @@ void write_whole(const unique_fd& file, const char* path, const void* data, std:
     error("Cannot write file %s (%s)", path, std::strerror(errno));
 }
 
-struct free_memory {
-    void operator()(partition_image* image) const { std::free(image); }
-};
-using zeroed_image = std::unique_ptr<partition_image, free_memory>;
-
-// From calloc(), which takes fresh pages for as much: those that nothing is written to are never touched.
-zeroed_image make_image() {
-    zeroed_image image(static_cast<partition_image*>(std::calloc(1, sizeof(partition_image))));
+// Zeroed by calloc(), which maps fresh pages for that much: those that nothing is written to are never touched.
+malloced<partition_image> make_image() {
+    malloced<partition_image> image(static_cast<partition_image*>(std::calloc(1, sizeof(partition_image))));
     if (image == nullptr) error("No enough memory");
     return image;
 }
@@ -69,7 +63,7 @@ zeroed_image make_image() {
 
 void hwknobs_generate_partimage(const char* partition, const char* name, const char* plat, const plenv_map& plenv,
                                 const char* dts, bool boot_failure_recovery) {
-    const zeroed_image image = make_image();
+    const malloced<partition_image> image = make_image();
     image->plenv = hwknobs_plenv_build(plenv);  // before the clearing: what cannot be stored costs nothing
     hwknobs_partimage_clear(hwknobs_default_partition, CLEAR_ALL);
 

@@ -73,6 +73,8 @@ void set_signed_argument(config_item& item, const char* value) {
     else argument_mismatch(item);
 }
 
+[[noreturn]] void uint32_out_of_range(const char* value) { error("config number out of range (uint32) %s", value); }
+
 void set_unsigned_argument(config_item& item, const char* value) {
     unsigned long number = 0;
     try {
@@ -80,9 +82,9 @@ void set_unsigned_argument(config_item& item, const char* value) {
     } catch (const std::invalid_argument&) {
         error("not a number %s", value);
     } catch (const std::out_of_range&) {
-        number = std::numeric_limits<unsigned long>::max();
+        uint32_out_of_range(value);
     }
-    if (number > std::numeric_limits<std::uint32_t>::max()) error("config number out of range (uint32) %s", value);
+    if (number > std::numeric_limits<std::uint32_t>::max()) uint32_out_of_range(value);
     if (item.arg_kind != config_arg_kind::uint32) argument_mismatch(item);
     item.arg = static_cast<std::uint32_t>(number);
 }

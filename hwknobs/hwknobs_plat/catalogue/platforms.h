@@ -7,16 +7,33 @@
 #include <cstdint>
 #include <string_view>
 
-// Name and hardware code. Only the low 16 bits of a code are compared.
-// clang-format off: a list, one platform a line
-#define HWKNOBS_PLATFORMS(platform)                                                                                 \
-    platform(px0000, 0x0000) platform(px1104, 0x1104) platform(px1206, 0x1206) platform(px1310, 0x1310)             \
-        platform(px2104, 0x2104) platform(px2208, 0x2208) platform(px2312, 0x2312) platform(px3104, 0x3104)         \
-            platform(px3208, 0x3208) platform(px3312, 0x3312) platform(px4108, 0x4108) platform(px4210, 0x4210)     \
-                platform(px4312, 0x4312) platform(px5108, 0x5108) platform(px5210, 0x5210) platform(px5312, 0x5312) \
-                    platform(px6108, 0x6108) platform(px6210, 0x6210) platform(px6314, 0x6314)                      \
-                        platform(px7108, 0x7108) platform(px7210, 0x7210) platform(px7314, 0x7314)                  \
-                            platform(px8210, 0x8210) platform(px8314, 0x8314)
+// Name and hardware code, one platform a line. Only the low 16 bits of a code are compared.
+// clang-format off
+#define HWKNOBS_PLATFORMS(platform) \
+    platform(px0000, 0x0000) \
+    platform(px1104, 0x1104) \
+    platform(px1206, 0x1206) \
+    platform(px1310, 0x1310) \
+    platform(px2104, 0x2104) \
+    platform(px2208, 0x2208) \
+    platform(px2312, 0x2312) \
+    platform(px3104, 0x3104) \
+    platform(px3208, 0x3208) \
+    platform(px3312, 0x3312) \
+    platform(px4108, 0x4108) \
+    platform(px4210, 0x4210) \
+    platform(px4312, 0x4312) \
+    platform(px5108, 0x5108) \
+    platform(px5210, 0x5210) \
+    platform(px5312, 0x5312) \
+    platform(px6108, 0x6108) \
+    platform(px6210, 0x6210) \
+    platform(px6314, 0x6314) \
+    platform(px7108, 0x7108) \
+    platform(px7210, 0x7210) \
+    platform(px7314, 0x7314) \
+    platform(px8210, 0x8210) \
+    platform(px8314, 0x8314)
 // clang-format on
 
 #define HWKNOBS_DECLARE_PLATFORM(name, code) extern const hwknobs_plat name;

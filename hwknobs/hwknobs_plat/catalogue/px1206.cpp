@@ -9,7 +9,7 @@
 //          vconn18, vconn33
 // Storage  eMMC 5.0
 // Modem    LTE
-// clang-format off: a table, one setting a row
+// clang-format off
 #include "hwknobs_plat/catalogue/table.h"
 
 using namespace catalogue;

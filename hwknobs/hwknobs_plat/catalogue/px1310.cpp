@@ -9,7 +9,7 @@
 //          vvib, vconn18, vconn33, vrf18
 // Storage  eMMC 5.1
 // Modem    LTE
-// clang-format off: a table, one setting a row
+// clang-format off
 #include "hwknobs_plat/catalogue/table.h"
 
 using namespace catalogue;

@@ -7,7 +7,7 @@
 // PMIC     rails vproc, vcore, vgpu, vdram, vpa; LDOs vio18, vio28, vemmc33, vsd33, vusb33, vcam28, vvib, vconn18
 // Storage  eMMC 5.0
 // Modem    LTE
-// clang-format off: a table, one setting a row
+// clang-format off
 #include "hwknobs_plat/catalogue/table.h"
 
 using namespace catalogue;

@@ -10,7 +10,7 @@
 //          vrf12, vtcxo22
 // Storage  UFS 2.1
 // Modem    LTE
-// clang-format off: a table, one setting a row
+// clang-format off
 #include "hwknobs_plat/catalogue/table.h"
 
 using namespace catalogue;

@@ -10,7 +10,7 @@
 //          vtcxo22
 // Storage  UFS 2.2
 // Modem    5G
-// clang-format off: a table, one setting a row
+// clang-format off
 #include "hwknobs_plat/catalogue/table.h"
 
 using namespace catalogue;

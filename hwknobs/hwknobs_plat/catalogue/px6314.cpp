@@ -11,7 +11,7 @@
 //          vufs18, vefuse, vbatif28, vrf12, vtcxo22
 // Storage  UFS 3.1
 // Modem    5G
-// clang-format off: a table, one setting a row
+// clang-format off
 #include "hwknobs_plat/catalogue/table.h"
 
 using namespace catalogue;
