@@ -7,7 +7,11 @@
 namespace {
 
 hwknobs_config row(std::uint32_t id) {
-    return {.desc = "x", .pl_setting = {"k", "v"}, .id = id, .group = CPU, .name = "a234567890123456789012345678901"};
+    return {.desc = "x",
+            .pl_setting = {"k", "v"},
+            .id = id,
+            .group = hwknobs_group::CPU,
+            .name = "a234567890123456789012345678901"};
 }
 
 // Checks the rows of a version-2 table and tells what was said of them.

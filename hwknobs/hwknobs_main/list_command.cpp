@@ -15,40 +15,14 @@ namespace {
 
 using u64 = std::uint64_t;
 
-struct group_name {
-    std::uint32_t code;
-    const char* name;
-};
+constexpr u64 group_bit(hwknobs_group group) { return u64{1} << static_cast<std::uint32_t>(group); }
 
-constexpr std::array<group_name, hwknobs_group_count> group_names = {{
-    {UNKNOWN, "UNKNOWN"},
-    {CPU, "CPU"},
-    {KERNEL, "KERNEL"},
-    {DRAM, "DRAM"},
-    {DISPLAY, "DISPLAY"},
-    {GPU, "GPU"},
-    {PMIC, "PMIC"},
-    {TOOL, "TOOL"},
-    {EMI, "EMI"},
-    {LPM, "LPM"},
-    {HYP, "HYP"},
-    {DPSW, "DPSW"},
-    {VCORE, "VCORE"},
-    {HRT, "HRT"},
-}};
-
-constexpr u64 group_bit(std::uint32_t code) { return u64{1} << code; }
-
-const char* get_hwknobs_group_name(std::uint32_t code) {
-    return code < group_names.size() ? group_names[code].name : "";
-}
-
-// The bit of a group that can be asked for; an unknown name is complained of and gives bit 0.
+// The bit of a group that can be asked for; an unknown name is reported and gives bit 0.
 u64 parse_group(std::string_view name) {
-    for (const group_name& group : group_names)
-        if (group.code != UNKNOWN && name == group.name) return group_bit(group.code);
+    for (const hwknobs_group group : hwknobs_groups)
+        if (group != hwknobs_group::UNKNOWN && name == get_hwknobs_group_name(group)) return group_bit(group);
     std::printf("Unknown group: %s\n", std::string(name).c_str());
-    return group_bit(UNKNOWN);
+    return group_bit(hwknobs_group::UNKNOWN);
 }
 
 u64 parse_group_options(int argc, char** argv) {
@@ -81,9 +55,9 @@ void print_version_0(const hwknobs_plat& plat) {
 std::array<char, 128> group_text(u64 mask) {
     std::array<char, 128> text{};
     std::size_t used = 0;
-    for (std::uint32_t code = 0; code < 16; ++code) {
-        if ((mask & group_bit(code)) == 0) continue;
-        const int length = std::snprintf(text.data() + used, text.size() - used, " %s ", get_hwknobs_group_name(code));
+    for (const hwknobs_group group : hwknobs_groups) {
+        if ((mask & group_bit(group)) == 0) continue;
+        const int length = std::snprintf(text.data() + used, text.size() - used, " %s ", get_hwknobs_group_name(group));
         if (length <= 0)
             __error("sprintf(buf + strlen(buf), \" %s \", get_hwknobs_group_name(i)) > 0", "hwknobs/hwknobs_main", 103,
                     "void __group_msg(char *, const char **, u64)");
@@ -167,7 +141,7 @@ int run_list_command(const global_options& global, int argc, char** argv) {
         return 0;
     }
     const u64 mask = parse_group_options(argc, argv);
-    if ((mask & group_bit(UNKNOWN)) == 0) __print_list(plat, mask);
+    if ((mask & group_bit(hwknobs_group::UNKNOWN)) == 0) __print_list(plat, mask);
     return 0;
 }
 
@@ -180,8 +154,9 @@ int run_list_group_command(const global_options& global, int /*argc*/, char** /*
     std::printf("XPR config list group (arch %s) \n", plat->name);
     std::printf("%3s %8s\n", "GID", "NAME");
     std::puts("----------------");
-    for (const group_name& group : group_names)
-        if (group.code != UNKNOWN) std::printf("%3d %8s\n", static_cast<int>(group.code), group.name);
+    for (const hwknobs_group group : hwknobs_groups)
+        if (group != hwknobs_group::UNKNOWN)
+            std::printf("%3d %8s\n", static_cast<int>(group), get_hwknobs_group_name(group));
     return 0;
 }
 

@@ -3,7 +3,34 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <iterator>
 #include <span>
+
+// Codes and names of the groups, in one list. The code, which counts up from 0, is the bit of the group in the filter
+// of `list`.
+// clang-format off
+#define HWKNOBS_GROUPS(group) \
+    group(UNKNOWN) group(CPU) group(KERNEL) group(DRAM) group(DISPLAY) group(GPU) group(PMIC) group(TOOL) group(EMI) \
+    group(LPM) group(HYP) group(DPSW) group(VCORE) group(HRT)
+// clang-format on
+
+#define HWKNOBS_GROUP_CODE(name) name,
+enum class hwknobs_group : std::uint32_t { HWKNOBS_GROUPS(HWKNOBS_GROUP_CODE) };
+#undef HWKNOBS_GROUP_CODE
+
+#define HWKNOBS_GROUP(name) hwknobs_group::name,
+inline constexpr hwknobs_group hwknobs_groups[] = {HWKNOBS_GROUPS(HWKNOBS_GROUP)};
+#undef HWKNOBS_GROUP
+
+#define HWKNOBS_GROUP_NAME(name) #name,
+inline constexpr const char* hwknobs_group_names[] = {HWKNOBS_GROUPS(HWKNOBS_GROUP_NAME)};
+#undef HWKNOBS_GROUP_NAME
+
+/// The name of a group, or the empty text for a code that no group has.
+constexpr const char* get_hwknobs_group_name(hwknobs_group group) {
+    const auto code = static_cast<std::size_t>(group);
+    return code < std::size(hwknobs_group_names) ? hwknobs_group_names[code] : "";
+}
 
 /// One setting. All texts are constant and live as long as the program; those that a setting has no use for are null.
 struct hwknobs_config {
@@ -15,31 +42,11 @@ struct hwknobs_config {
     } pl_setting{};
     const char* dt_fragment = nullptr;  ///< an overlay fragment, a template
     std::uint32_t id = 0;               ///< version 2: unique in its platform; stored on devices, so it never moves
-    std::uint32_t group = 0;            ///< version 2: a hwknobs_group
+    hwknobs_group group{};              ///< version 2
     const char* name = nullptr;         ///< version 2: unique in its platform
 
     constexpr bool takes_argument() const { return (arg_type & 1) != 0; }
 };
-
-/// Group codes. The number is the bit of the group in the filter of `list`.
-enum hwknobs_group : std::uint32_t {
-    UNKNOWN,
-    CPU,
-    KERNEL,
-    DRAM,
-    DISPLAY,
-    GPU,
-    PMIC,
-    TOOL,
-    EMI,
-    LPM,
-    HYP,
-    DPSW,
-    VCORE,
-    HRT
-};
-
-inline constexpr std::uint32_t hwknobs_group_count = 14;
 
 /// The version of tables whose rows have ids, groups and names; the other is 0.
 inline constexpr std::uint32_t version_with_ids = 2;

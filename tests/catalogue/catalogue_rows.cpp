@@ -52,9 +52,6 @@ void print_platforms() {
         fmt::print("{} {} {:x}\n", plat->name, plat->version, plat->hw_code);
 }
 
-constexpr std::string_view group_names[] = {"UNKNOWN", "CPU", "KERNEL", "DRAM", "DISPLAY", "GPU",   "PMIC",
-                                            "TOOL",    "EMI", "LPM",    "HYP",  "DPSW",    "VCORE", "HRT"};
-
 void print_listing_by_position(const hwknobs_plat& plat) {
     const auto rows = hwknobs_configs(plat);
     fmt::print("XPR config list (arch {}) num:{}\n", plat.name, rows.size());
@@ -70,7 +67,7 @@ void print_listing(const hwknobs_plat& plat, words groups) {
     std::string summary = fmt::format("num:{}", by_id.size());
     if (!groups.empty()) {
         summary = "group selected:(";
-        for (const std::string_view name : group_names)
+        for (const std::string_view name : hwknobs_group_names)
             if (std::ranges::find(groups, name) != groups.end()) summary += fmt::format(" {} ", name);
         summary += ')';
     }
@@ -79,7 +76,7 @@ void print_listing(const hwknobs_plat& plat, words groups) {
     fmt::print(line, "ID", "DESC", "NAME", "ARG", "GROUP");
     fmt::print("{:-<144}\n", "");
     for (const auto& [id, row] : by_id) {
-        const std::string_view group = group_names[row->group];
+        const std::string_view group = get_hwknobs_group_name(row->group);
         if (!groups.empty() && std::ranges::find(groups, group) == groups.end()) continue;
         fmt::print(line, id, row->desc, row->name, row->takes_argument() ? "required" : "", group);
     }

@@ -42,7 +42,8 @@ std::string row_text(const hwknobs_config& row) {
     std::string text = text_of(row.desc) + " | " + std::to_string(row.arg_type);
     for (const char* const part : {row.pl_setting.key, row.pl_setting.value, row.dt_fragment})
         text += " | " + text_of(part);
-    return text + " | " + std::to_string(row.id) + " | " + std::to_string(row.group) + " | " + text_of(row.name);
+    return text + " | " + std::to_string(row.id) + " | " + std::to_string(static_cast<unsigned>(row.group)) + " | " +
+           text_of(row.name);
 }
 
 // Each run of digits as one "#": what may differ in the same knob from one platform to the next.
@@ -110,33 +111,33 @@ TEST(Catalogue, TellingRowsStandInEveryTableWithIds) {
     const hwknobs_config telling[] = {
         {.desc = "Disable Linux kernel randomize-base",
          .dt_fragment = "&chosen { kaslr-status=\"disabled\"; };",
-         .group = 2,
+         .group = hwknobs_group{2},
          .name = "kaslr_disable"},
         {.desc = "Enable Linux kernel randomize-base",
          .dt_fragment = "&chosen { kaslr-status=\"okay\"; };",
-         .group = 2,
+         .group = hwknobs_group{2},
          .name = "kaslr_enable"},
         {.desc = "Disable Kmemleak",
          .dt_fragment = "&chosen { kmemleak-status=\"disabled\"; };",
-         .group = 2,
+         .group = hwknobs_group{2},
          .name = "kmemleak_disable"},
         {.desc = "Enable Kmemleak",
          .dt_fragment = "&chosen { kmemleak-status=\"okay\"; };",
-         .group = 2,
+         .group = hwknobs_group{2},
          .name = "kmemleak_enable"},
         {.desc = "switch lcm settings",
          .arg_type = 1,
          .dt_fragment = "&dsi0 { panel_hwknobs = <%d>; };",
-         .group = 4,
+         .group = hwknobs_group{4},
          .name = "lcm_settings"},
         {.desc = "Set Boot Perf Stat Events",
          .arg_type = 1,
          .pl_setting = {"perf_event", "%s"},
-         .group = 7,
+         .group = hwknobs_group{7},
          .name = "perf_stat_events"},
         {.desc = "Enable GPU ACP",
          .dt_fragment = "&mali { system-coherency = <0>; };",
-         .group = 5,
+         .group = hwknobs_group{5},
          .name = "enable_gpu_acp"},
     };
     for (const hwknobs_plat* const plat : platforms_with_ids()) {

@@ -201,7 +201,8 @@ constexpr rule check_identity(const hwknobs_config& row) {
     for (const char c : name)
         if (!(c >= 'a' && c <= 'z') && !is_digit(c) && c != '_') return rule::name_is_lower_case_with_underscores;
     if (row.id < 1 || row.id > 1023) return rule::id_is_from_1_to_1023;
-    return row.group > UNKNOWN && row.group < hwknobs_group_count ? rule::none : rule::group_is_known;
+    const bool known = row.group != hwknobs_group::UNKNOWN && *get_hwknobs_group_name(row.group) != '\0';
+    return known ? rule::none : rule::group_is_known;
 }
 
 // The fourth row of the test platform takes an argument in both halves; the tool refuses to select it, and tests want

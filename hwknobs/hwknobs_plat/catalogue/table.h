@@ -16,9 +16,11 @@
 
 namespace catalogue {
 
+using enum hwknobs_group;
+
 struct row_text {
     std::uint32_t id = 0;
-    std::uint32_t group = 0;
+    hwknobs_group group{};
     const char* name = nullptr;
     const char* desc = nullptr;
 };
