@@ -93,35 +93,27 @@ void config_item::format_validate() {
     arg_kind = check.kind;
 }
 
+std::string config_item::render_argument(char conversion) const {
+    switch (conversion) {
+        case 'd': return fmt::format("{}", static_cast<std::uint32_t>(std::get<std::int32_t>(arg)));
+        case 'u': return fmt::format("{}", std::get<std::uint32_t>(arg));
+        case 'x': return fmt::format("{:x}", std::get<std::uint32_t>(arg));
+        default: return std::get<std::string>(arg);
+    }
+}
+
 std::string config_item::format_item(const char* fmt) const {
     std::string out;
-    auto state = template_state::text;
-    for (const char c : std::string_view(fmt)) {
-        switch (state) {
-            case template_state::text:
-                if (c == '%') state = template_state::conversion;
-                else out += c;
-                break;
-            case template_state::conversion:
-                state = template_state::text;
-                switch (c) {
-                    case '%': out += '%'; break;
-                    case 'd': out += fmt::format("{}", static_cast<std::uint32_t>(std::get<std::int32_t>(arg))); break;
-                    case 'u': out += fmt::format("{}", std::get<std::uint32_t>(arg)); break;
-                    case 'x': out += fmt::format("{:x}", std::get<std::uint32_t>(arg)); break;
-                    case 's':
-                        out += std::get<std::string>(arg);
-                        state = template_state::after_string;
-                        break;
-                    default: state = template_state::conversion;  // dropped: templates were checked before
-                }
-                break;
-            case template_state::after_string:
-                state = c == '[' ? template_state::value_list : template_state::text;
-                break;
-            case template_state::value_list:
-                if (c == ']') state = template_state::text;
-                break;
+    template_scanner scanner(fmt);
+    while (const auto piece = scanner.next()) {
+        switch (piece->kind) {
+            case template_piece_kind::text:
+            case template_piece_kind::percent_sign: out += piece->text; break;
+            case template_piece_kind::conversion: out += render_argument(piece->text.front()); break;
+            case template_piece_kind::unknown_conversion:
+            case template_piece_kind::swallowed_byte:
+            case template_piece_kind::allowed_value:
+            case template_piece_kind::unfinished_value: break;
         }
     }
     return out;

@@ -49,4 +49,5 @@ struct config_item {
 
 private:
     void format_validate();
+    std::string render_argument(char conversion) const;
 };

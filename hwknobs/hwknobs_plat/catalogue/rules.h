@@ -94,26 +94,18 @@ constexpr rule check_description(std::string_view desc) {
     return rule::none;
 }
 
-// The largest number that a conversion prints has 10 digits, or 8 in hexadecimal.
-constexpr std::size_t longest_number(char letter) { return letter == 'x' ? 8 : 10; }
-
-// The largest size of a rendered value. A free string counts as empty: only it can make a selection too large, which
-// is refused when it is written.
+// The largest size of a rendered value: a number has 10 digits, or 8 in hexadecimal. A free string counts as empty:
+// only it can make a selection too large, which is refused when it is written.
 constexpr std::size_t longest_value(std::string_view value) {
+    const std::size_t longest_string = inspect_template(value).longest_value;
     std::size_t size = 0;
-    for (std::size_t i = 0; i < value.size(); ++i) {
-        if (value[i] != '%') {
-            ++size;
-            continue;
-        }
-        const char letter = value[++i];
-        if (letter == '%') ++size;
-        else if (letter != 's') size += longest_number(letter);
-        else if (i + 1 < value.size() && value[i + 1] != '[') ++i;
-        else if (i + 1 < value.size()) {
-            size += inspect_template(value.substr(i - 1)).longest_value;
-            i = value.find(']', i);
-        }
+    template_scanner scanner(value);
+    while (const auto piece = scanner.next()) {
+        if (piece->kind == template_piece_kind::text || piece->kind == template_piece_kind::percent_sign)
+            size += piece->text.size();
+        if (piece->kind != template_piece_kind::conversion) continue;
+        const char letter = piece->text.front();
+        size += letter == 's' ? longest_string : letter == 'x' ? 8 : 10;
     }
     return size;
 }
@@ -121,16 +113,12 @@ constexpr std::size_t longest_value(std::string_view value) {
 // Whatever the argument, the value keeps to the characters that are read back: the text around the conversions does,
 // numbers do, and arguments are letters, digits, ",", "-" and "_".
 constexpr bool value_is_read_back(std::string_view value) {
-    bool in_list = false;
-    for (std::size_t i = 0; i < value.size(); ++i) {
-        if (in_list) {
-            in_list = value[i] != ']';
-        } else if (value[i] == '%') {
-            if (value[++i] == '%') return false;
-            in_list = i + 1 < value.size() && value[i] == 's' && value[i + 1] == '[';
-        } else if (!is_plenv_value_char(value[i])) {
-            return false;
-        }
+    template_scanner scanner(value);
+    while (const auto piece = scanner.next()) {
+        if (piece->kind == template_piece_kind::percent_sign) return false;
+        if (piece->kind != template_piece_kind::text) continue;
+        for (const char c : piece->text)
+            if (!is_plenv_value_char(c)) return false;
     }
     return true;
 }
@@ -149,13 +137,15 @@ constexpr rule check_plenv(const hwknobs_config::plenv_pair& pair) {
 // a quote sooner or later. And where the argument is "item", the reader takes the rest up to the next string for a line
 // of its own: the string that holds the conversion is the last.
 constexpr rule check_free_strings(std::string_view fragment) {
-    for (std::size_t at = fragment.find("%s"); at != std::string_view::npos; at = fragment.find("%s", at + 2)) {
-        const std::string_view rest = fragment.substr(at + 2);
-        if (rest.starts_with('[')) continue;
-        if (!rest.starts_with(' ')) return rule::blank_follows_bare_string_conversion;
+    template_scanner scanner(fragment);
+    while (const auto piece = scanner.next()) {
+        if (piece->kind != template_piece_kind::swallowed_byte) continue;
+        if (piece->text != " ") return rule::blank_follows_bare_string_conversion;
+        const std::string_view rest(piece->text.end(), fragment.end());
         if (rest.find('"') != rest.rfind('"')) return rule::no_string_follows_a_free_one;
     }
-    return rule::none;
+    const bool ends_bare = scanner.state() == template_state::after_string;
+    return ends_bare ? rule::blank_follows_bare_string_conversion : rule::none;
 }
 
 constexpr bool takes_nothing(std::string_view text) {
