@@ -3,7 +3,7 @@
 
 build_packages=(g++ cmake ninja-build libxml2-dev libfmt-dev)
 device_packages=(bubblewrap device-tree-compiler)
-test_packages=(bats libgtest-dev libgmock-dev strace shellcheck clang clang-format clang-tidy)
+test_packages=(bats libgtest-dev libgmock-dev strace shellcheck clang clang-format clang-tidy man-db mandoc)
 
 # Installs those of the packages that the machine lacks, and says so.
 need_packages() {

@@ -1,0 +1,25 @@
+#!/usr/bin/env bats
+# What "cmake --install" puts in place.
+bats_require_minimum_version 1.5.0
+
+setup_file() {
+    export PREFIX=$BATS_FILE_TMPDIR/prefix
+    cmake --install "$HWKNOBS_BUILD" --prefix "$PREFIX" >/dev/null
+}
+
+@test "the tool runs from where it is installed" {
+    run -0 "$PREFIX/bin/hwknobs" plat-list
+    [[ ${lines[0]} == "Support platform" ]]
+}
+
+@test "the manual page: no warnings, and all commands and options of the usage text" {
+    local page=$PREFIX/share/man/man1/hwknobs.1 usage=$BATS_TEST_DIRNAME/data/usage.txt text word
+    run -0 mandoc -T lint -W warning "$page"
+    run -0 env LC_ALL=C.UTF-8 MANROFFSEQ='' MANWIDTH=80 man --warnings -E UTF-8 -l -Tutf8 -Z "$page"
+    [[ $output != *warning* ]]
+    text=$(mandoc -T ascii -O width=200 "$page" | sed 's/.\x08//g')
+    while read -r word; do
+        [[ $text =~ (^|[^a-z-])"$word"($|[^a-z-]) ]] || { echo "not in the manual: $word"; return 1; }
+    done < <(sed -nE 's/^usage hwknobs( \[[^]]*\])* ([a-z-]+).*/\2/p' "$usage"
+        grep -oE '(^|[[[:space:]])--?[a-z][a-z-]*' "$usage" | tr -d '[ \t' | grep -vx -e --option)
+}
