@@ -1,5 +1,5 @@
 // The compile step with more source than a pipe holds: more than any selection makes, so nothing else tries it.
-#include "hwknobs_img/dt_compiler.h"
+#include "hwknobs_dtc/dt_compiler.h"
 
 #include <gtest/gtest.h>
 #include <sys/stat.h>

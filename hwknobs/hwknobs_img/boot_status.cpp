@@ -13,7 +13,7 @@
 
 bool hwknobs_boot_status(const char* partition) {
     constexpr const char* function_name = "hwknobs_boot_status";
-    constexpr off_t offset = offsetof(partition_image, status);
+    constexpr off_t offset = offsetof(partition_layout, status);
     if (partition == nullptr) error("No boot para available");
     const unique_fd file(open(partition, O_RDONLY | O_CLOEXEC));
     if (!file) {

@@ -1,8 +1,8 @@
 #include "hwknobs_img/image.h"
 
 #include "hwknobs_base/diagnostics.h"
-#include "hwknobs_img/dt_compiler.h"
-#include "hwknobs_img/partimage.h"
+#include "hwknobs_dtc/dt_compiler.h"
+#include "hwknobs_img/partition_reader.h"
 
 #include <algorithm>
 

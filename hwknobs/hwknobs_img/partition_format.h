@@ -94,7 +94,7 @@ static_assert(sizeof(plenv_block::entries) == plenv_capacity + 1);
 
 inline constexpr std::size_t blob_capacity = 0x20000;
 
-struct partition_image {
+struct partition_layout {
     section_header settings_header;
     setting_info info;
     plenv_block plenv;
@@ -103,14 +103,14 @@ struct partition_image {
     section_header status_header;
     std::array<char, 512> status;
 };
-static_assert(sizeof(partition_image) == 0x20E00);
-static_assert(alignof(partition_image) == 1);
-static_assert(offsetof(partition_image, info) == 0x200);
-static_assert(offsetof(partition_image, plenv) == 0x400);
-static_assert(offsetof(partition_image, dt_header) == 0x800);
-static_assert(offsetof(partition_image, blob) == 0xA00);
-static_assert(offsetof(partition_image, status_header) == 0x20A00);
-static_assert(offsetof(partition_image, status) == 0x20C00);
+static_assert(sizeof(partition_layout) == 0x20E00);
+static_assert(alignof(partition_layout) == 1);
+static_assert(offsetof(partition_layout, info) == 0x200);
+static_assert(offsetof(partition_layout, plenv) == 0x400);
+static_assert(offsetof(partition_layout, dt_header) == 0x800);
+static_assert(offsetof(partition_layout, blob) == 0xA00);
+static_assert(offsetof(partition_layout, status_header) == 0x20A00);
+static_assert(offsetof(partition_layout, status) == 0x20C00);
 
 /// What the first section's data_size covers.
 inline constexpr std::uint32_t settings_data_size = sizeof(setting_info) + sizeof(plenv_block);
@@ -120,4 +120,4 @@ static_assert(settings_data_size == 0x600);
 inline constexpr long settings_area_size = 0x100000;
 inline constexpr long partition_size_min = settings_area_size;
 inline constexpr long partition_size_max = 0x8000000;
-static_assert(sizeof(partition_image) <= settings_area_size);
+static_assert(sizeof(partition_layout) <= settings_area_size);

@@ -1,5 +1,5 @@
 #include "hwknobs_base/diagnostics.h"
-#include "hwknobs_img/partimage_writer.h"
+#include "hwknobs_img/partition_writer.h"
 #include "hwknobs_libxml/xml_document.h"
 #include "hwknobs_libxml/xmlconfig.h"
 #include "hwknobs_plat/timestamp.h"

@@ -1,5 +1,5 @@
 #include "hwknobs_base/diagnostics.h"
-#include "hwknobs_img/partimage_writer.h"
+#include "hwknobs_img/partition_writer.h"
 #include "hwknobs_main/commands.h"
 #include "hwknobs_main/options.h"
 

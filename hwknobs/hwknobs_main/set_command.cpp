@@ -1,7 +1,7 @@
 // The set and setname commands.
 #include "hwknobs_base/diagnostics.h"
 #include "hwknobs_img/image.h"
-#include "hwknobs_img/partimage_writer.h"
+#include "hwknobs_img/partition_writer.h"
 #include "hwknobs_main/commands.h"
 #include "hwknobs_main/item_words.h"
 #include "hwknobs_main/options.h"

@@ -1,7 +1,7 @@
 // The status command: what the partition holds, or what the running system booted with.
 #include "hwknobs_base/diagnostics.h"
 #include "hwknobs_base/unique_fd.h"
-#include "hwknobs_img/partimage.h"
+#include "hwknobs_img/partition_reader.h"
 #include "hwknobs_main/commands.h"
 #include "hwknobs_main/options.h"
 

@@ -1,4 +1,4 @@
-#include "hwknobs_img/child_process.h"
+#include "hwknobs_dtc/child_process.h"
 
 #include <cstdio>
 

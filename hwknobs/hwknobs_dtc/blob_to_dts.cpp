@@ -2,8 +2,8 @@
 // output. The blob is written at once and the output read only after the child's end, so both have to fit into the
 // pipes: these are made as large as the system grants, which is more than the largest blob and its source take.
 #include "hwknobs_base/malloced.h"
-#include "hwknobs_img/child_process.h"
-#include "hwknobs_img/dt_compiler.h"
+#include "hwknobs_dtc/child_process.h"
+#include "hwknobs_dtc/dt_compiler.h"
 
 #include <fcntl.h>
 #include <sys/wait.h>

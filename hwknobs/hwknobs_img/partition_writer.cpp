@@ -1,9 +1,9 @@
-#include "hwknobs_img/partimage_writer.h"
+#include "hwknobs_img/partition_writer.h"
 
 #include "hwknobs_base/diagnostics.h"
 #include "hwknobs_base/malloced.h"
 #include "hwknobs_base/unique_fd.h"
-#include "hwknobs_img/dt_compiler.h"
+#include "hwknobs_dtc/dt_compiler.h"
 
 #include <fcntl.h>
 
@@ -39,9 +39,9 @@ section_header make_header(std::string_view name, std::size_t data_size) {
 
 // Up to the end of the blob, or of the status area where there is one.
 std::size_t image_size(std::size_t blob_size, bool boot_failure_recovery) {
-    if (boot_failure_recovery) return sizeof(partition_image);
+    if (boot_failure_recovery) return sizeof(partition_layout);
     const std::size_t aligned_blob = (blob_size + section_alignment - 1) / section_alignment * section_alignment;
-    return offsetof(partition_image, blob) + aligned_blob;
+    return offsetof(partition_layout, blob) + aligned_blob;
 }
 
 // One write() that has to take everything: what the bootloader finds is never put together from several.
@@ -53,8 +53,8 @@ void write_whole(const unique_fd& file, const char* path, const void* data, std:
 }
 
 // Zeroed by calloc(), which maps fresh pages for that much: those that nothing is written to are never touched.
-malloced<partition_image> make_image() {
-    malloced<partition_image> image(static_cast<partition_image*>(std::calloc(1, sizeof(partition_image))));
+malloced<partition_layout> make_image() {
+    malloced<partition_layout> image(static_cast<partition_layout*>(std::calloc(1, sizeof(partition_layout))));
     if (image == nullptr) error("No enough memory");
     return image;
 }
@@ -63,7 +63,7 @@ malloced<partition_image> make_image() {
 
 void hwknobs_generate_partimage(const char* partition, const char* name, const char* plat, const plenv_map& plenv,
                                 const char* dts, bool boot_failure_recovery) {
-    const malloced<partition_image> image = make_image();
+    const malloced<partition_layout> image = make_image();
     image->plenv = hwknobs_plenv_build(plenv);  // before the clearing: what cannot be stored costs nothing
     hwknobs_partimage_clear(hwknobs_default_partition, CLEAR_ALL);
 

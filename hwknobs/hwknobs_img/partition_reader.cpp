@@ -1,9 +1,9 @@
-#include "hwknobs_img/partimage.h"
+#include "hwknobs_img/partition_reader.h"
 
 #include "hwknobs_base/diagnostics.h"
 #include "hwknobs_base/malloced.h"
 #include "hwknobs_base/unique_fd.h"
-#include "hwknobs_img/dt_compiler.h"
+#include "hwknobs_dtc/dt_compiler.h"
 
 #include <fcntl.h>
 
@@ -93,11 +93,11 @@ std::unique_ptr<hwknobs_partimage> hwknobs_partimage::load(const char* partition
     if (!head) return nullptr;
 
     plenv_block block;
-    read_at(file, partition, offsetof(partition_image, plenv), &block, sizeof(block));
+    read_at(file, partition, offsetof(partition_layout, plenv), &block, sizeof(block));
     plenv_map plenv = hwknobs_plenv_parse(block);
     // The whole reserved area: the compiler finds the blob's real size in the blob.
     const auto blob = std::make_unique_for_overwrite<char[]>(blob_capacity);
-    read_at(file, partition, offsetof(partition_image, blob), blob.get(), blob_capacity);
+    read_at(file, partition, offsetof(partition_layout, blob), blob.get(), blob_capacity);
     file.reset();
     std::string dts = convert_to_source(blob.get());
 

@@ -7,7 +7,7 @@
 // The patterns are narrow on purpose: a numeric argument is digits only (a negative one reads as 0), a string argument
 // is letters, "_" and "-" only (another one reads as empty).
 #include "hwknobs_base/diagnostics.h"
-#include "hwknobs_img/partimage.h"
+#include "hwknobs_img/partition_reader.h"
 
 #include <regex.h>
 

@@ -1,8 +1,8 @@
 // Feeds the compiler its source and collects the blob and the error text, all in one poll loop: whichever of the
 // three pipes fills up first, neither side can be left waiting for the other.
 #include "hwknobs_base/diagnostics.h"
-#include "hwknobs_img/child_process.h"
-#include "hwknobs_img/dt_compiler.h"
+#include "hwknobs_dtc/child_process.h"
+#include "hwknobs_dtc/dt_compiler.h"
 
 #include <fcntl.h>
 #include <poll.h>

@@ -1,6 +1,6 @@
 // What the reader finds in the source text of a stored setting.
 #include "fatal.h"
-#include "hwknobs_img/partimage.h"
+#include "hwknobs_img/partition_reader.h"
 #include "rows.h"
 
 #include <fmt/format.h>
