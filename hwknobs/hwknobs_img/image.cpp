@@ -3,6 +3,7 @@
 #include "hwknobs_base/diagnostics.h"
 #include "hwknobs_dtc/dt_compiler.h"
 #include "hwknobs_img/partition_reader.h"
+#include "hwknobs_record/stored_record.h"
 
 #include <algorithm>
 

@@ -4,6 +4,7 @@
 #include "hwknobs_base/malloced.h"
 #include "hwknobs_base/unique_fd.h"
 #include "hwknobs_dtc/dt_compiler.h"
+#include "hwknobs_record/stored_record.h"
 
 #include <fcntl.h>
 

@@ -2,11 +2,10 @@
 #pragma once
 
 #include "hwknobs_img/plenv_block.h"
-#include "hwknobs_item/config_item.h"
+#include "hwknobs_plat/platform.h"
 
 #include <memory>
 #include <string>
-#include <vector>
 
 /// The parsed contents of a partition that holds a setting.
 struct hwknobs_partimage {
@@ -20,10 +19,6 @@ struct hwknobs_partimage {
     /// found, whatever keeps it from being read ends the process.
     static std::unique_ptr<hwknobs_partimage> load(const char* partition);
 };
-
-/// Rebuilds the items of a stored setting from the lines that `set` left in its source, in their order. A line whose
-/// id the platform does not have is warned of again and again, without end.
-void save_hwknobs_effect_status(const char* plat, const char* dts, std::vector<config_item>& items);
 
 /// Prints what the partition holds. Always true.
 bool hwknobs_partimage_dump(const char* partition);

@@ -2,7 +2,7 @@
 #include "hwknobs_img/partition_writer.h"
 #include "hwknobs_libxml/xml_document.h"
 #include "hwknobs_libxml/xmlconfig.h"
-#include "hwknobs_plat/timestamp.h"
+#include "hwknobs_record/stored_record.h"
 
 #include <fmt/format.h>
 
@@ -36,16 +36,14 @@ void read_plsetting(const xmlNode* plsetting, plenv_map& settings) {
     }
 }
 
-// The first child alone holds the source; the header that records the run is appended to it.
+// The first child alone holds the source; the record of the run is appended to it.
 std::string read_dtbo(const xmlNode* dtbo, const char* plat) {
     const xmlNode* const source = dtbo->children;
     if (source == nullptr) error("Empty dtbo section\n");
     if (source->type != XML_CDATA_SECTION_NODE && source->type != XML_TEXT_NODE)
         error("The dtbo section does not begin with text or CDATA");
-    return fmt::format(
-        "{}\n&chosen {{\n  hwknobs {{\n    platform = \"{}\";\n    command = \"xmlconfig-set\";\n"
-        "    timestamp = \"{}\";\n  }};\n}};\n",
-        plain_text(source->content), plat, hwknobs_get_timestamp());
+    return fmt::format("{}\n{}", plain_text(source->content),
+                       compose_record(import_command_word, plat, std::nullopt, {}));
 }
 
 }  // namespace

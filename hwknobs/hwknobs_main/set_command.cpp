@@ -5,9 +5,7 @@
 #include "hwknobs_main/commands.h"
 #include "hwknobs_main/item_words.h"
 #include "hwknobs_main/options.h"
-#include "hwknobs_plat/timestamp.h"
-
-#include <fmt/format.h>
+#include "hwknobs_record/stored_record.h"
 
 #include <cstdio>
 #include <cstdlib>
@@ -74,24 +72,11 @@ std::unique_ptr<hwknobs_image> change_stored(const global_options& global, set_m
     return image;
 }
 
-// The fragments of the items and the header that records the run: what the items are read back from.
-std::string compose_source(const hwknobs_image& image) {
-    std::string dts = image.generate_dt();
-    dts += fmt::format(
-        "&chosen {{\n  hwknobs {{\n    platform = \"{}\";\n    command = \"set\";\n    timestamp = \"{}\";\n"
-        "    boot_failure_recovery = \"{}\";\n",
-        image.plat->name, hwknobs_get_timestamp(), image.boot_failure_recovery);
-    for (std::size_t i = 0; i < image.items.size(); ++i) {
-        const std::string desc = image.items[i].desc();
-        dts += fmt::format("    item{} = \"{}\";\n", i, desc);
-        std::printf("\t%s\n", desc.c_str());
-    }
-    return dts + "  };\n};\n";
-}
-
 void write_image(const hwknobs_image& image, const char* path) {
     std::printf("Config set (platform %s), #item=%zu\n", image.plat->name, image.items.size());
-    const std::string dts = compose_source(image);
+    for (const config_item& item : image.items) std::printf("\t%s\n", item.desc().c_str());
+    const std::string dts = image.generate_dt() + compose_record(set_command_word, image.plat->name,
+                                                                 image.boot_failure_recovery, image.items);
     hwknobs_generate_partimage(path, image_name, image.plat->name, image.generate_settings(), dts.c_str(),
                                image.boot_failure_recovery);
     std::puts("config set ok");

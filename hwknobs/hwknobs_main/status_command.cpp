@@ -4,6 +4,7 @@
 #include "hwknobs_img/partition_reader.h"
 #include "hwknobs_main/commands.h"
 #include "hwknobs_main/options.h"
+#include "hwknobs_record/stored_record.h"
 
 #include <fcntl.h>
 
@@ -16,7 +17,6 @@
 
 namespace {
 
-constexpr const char* setting_node = "/proc/device-tree/chosen/hwknobs";
 constexpr int shown_items_max = 1024;
 
 // The lines that reports of this command's broken invariants name.
@@ -46,7 +46,7 @@ std::optional<std::string> dt_read_string(int dirfd, const char* name) {
 void print_system_items(int dirfd) {
     for (int i = 0; i < shown_items_max; ++i) {
         std::array<char, 32> item_name{};
-        check(std::snprintf(item_name.data(), item_name.size(), "item%d", i) > 0,
+        check(std::snprintf(item_name.data(), item_name.size(), "%s%d", stored_record::item, i) > 0,
               "snprintf(item_name, sizeof(item_name), \"item%d\", i) > 0", item_name_line);
         const auto text = dt_read_string(dirfd, item_name.data());
         if (!text) return;
@@ -55,21 +55,21 @@ void print_system_items(int dirfd) {
 }
 
 bool hwknobs_system_status() {
-    const unique_fd node(open(setting_node, O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+    const unique_fd node(open(stored_record::node, O_RDONLY | O_DIRECTORY | O_CLOEXEC));
     if (!node) {
         std::puts("<<system>> hwknobs setting does not take effect");
         return false;
     }
-    const auto command = dt_read_string(node.get(), "command");
-    const auto date = dt_read_string(node.get(), "timestamp");
-    const auto platform = dt_read_string(node.get(), "platform");
-    const auto failure_recovery = dt_read_string(node.get(), "boot_failure_recovery");
+    const auto command = dt_read_string(node.get(), stored_record::command);
+    const auto date = dt_read_string(node.get(), stored_record::timestamp);
+    const auto platform = dt_read_string(node.get(), stored_record::platform);
+    const auto failure_recovery = dt_read_string(node.get(), stored_record::boot_failure_recovery);
     check(command && date && platform && failure_recovery, "command && date && platform && failure_recovery",
           missing_property_line);
     std::printf("<<system>> hwknobs '%s' command at %s\n", command->c_str(), date->c_str());
     std::printf("   plat %s boot recovery %s\n", platform->c_str(), failure_recovery->c_str());
-    if (*command == "set") print_system_items(node.get());
-    else if (*command != "xmlconfig-set")
+    if (*command == set_command_word) print_system_items(node.get());
+    else if (*command != import_command_word)
         error("%s: unknown hwknobs command %s", "hwknobs_system_status", command->c_str());
     return true;
 }

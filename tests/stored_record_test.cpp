@@ -1,6 +1,6 @@
 // What the reader finds in the source text of a stored setting.
 #include "fatal.h"
-#include "hwknobs_img/partition_reader.h"
+#include "hwknobs_record/stored_record.h"
 #include "rows.h"
 
 #include <fmt/format.h>
@@ -17,7 +17,7 @@ std::string line(const hwknobs_config& row, const char* argument) {
     return fmt::format("\t\titem0 = \"Activate  {}({}){} {}\";\n", row.name, row.id, argument, row.desc);
 }
 
-TEST(EffectStatus, LinesAndArguments) {
+TEST(StoredRecord, LinesAndArguments) {
     const std::tuple<config_arg_kind, const char*, decltype(config_item::arg)> cases[] = {
         {config_arg_kind::int32, "[arg=3]", 3},
         {config_arg_kind::int32, "[arg=-3]", 0},  // digits only

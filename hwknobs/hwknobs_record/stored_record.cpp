@@ -1,19 +1,13 @@
-// Finds the items of a stored setting in its source text. The overlay is stored in compiled form only, so what was
-// selected is read from the properties that `set` leaves in /chosen/hwknobs:
-//
-//     item0 = "Activate  big_off(12) Turn the big cores off";
-//     item1 = "Activate  lcm_settings(7)[arg=3] switch lcm settings";
-//
-// The patterns are narrow on purpose: a numeric argument is digits only (a negative one reads as 0), a string argument
-// is letters, "_" and "-" only (another one reads as empty).
-#include "hwknobs_base/diagnostics.h"
-#include "hwknobs_img/partition_reader.h"
+#include "hwknobs_record/stored_record.h"
 
+#include "hwknobs_base/diagnostics.h"
+#include "hwknobs_plat/timestamp.h"
+
+#include <fmt/format.h>
 #include <regex.h>
 
 #include <array>
 #include <cstdlib>
-#include <optional>
 
 namespace {
 
@@ -114,6 +108,22 @@ private:
 };
 
 }  // namespace
+
+std::string compose_record(std::string_view command, std::string_view platform,
+                           std::optional<bool> boot_failure_recovery, std::span<const config_item> items) {
+    const auto property = [](std::string_view name, std::string_view value) {
+        return fmt::format("    {} = \"{}\";\n", name, value);
+    };
+    std::string record = "&chosen {\n  hwknobs {\n";
+    record += property(stored_record::platform, platform);
+    record += property(stored_record::command, command);
+    record += property(stored_record::timestamp, hwknobs_get_timestamp());
+    if (boot_failure_recovery)
+        record += property(stored_record::boot_failure_recovery, *boot_failure_recovery ? "true" : "false");
+    for (std::size_t i = 0; i < items.size(); ++i)
+        record += property(fmt::format("{}{}", stored_record::item, i), items[i].desc());
+    return record + "  };\n};\n";
+}
 
 void save_hwknobs_effect_status(const char* plat, const char* dts, std::vector<config_item>& items) {
     const item_reader reader;
