@@ -18,9 +18,10 @@ config_item::config_item(const hwknobs_config* cfg, unsigned int number)
     : number(number),
       cfg(cfg),
       name(cfg->name != nullptr ? std::string_view(cfg->name) : std::string_view()) {
-    if (cfg->pl_setting.key == nullptr && cfg->dt_fragment == nullptr)
-        __error("(cfg->pl_setting.key != NULL) || (cfg->dt_fragment != NULL)", "hwknobs/hwknobs", 139,
-                "config_item::config_item(const struct hwknobs_config *, unsigned int)");
+    constexpr assertion_site site{"hwknobs/hwknobs",
+                                  "config_item::config_item(const struct hwknobs_config *, unsigned int)"};
+    check_invariant(cfg->pl_setting.key != nullptr || cfg->dt_fragment != nullptr,
+                    "(cfg->pl_setting.key != NULL) || (cfg->dt_fragment != NULL)", site, 139);
     format_validate();
 }
 
@@ -32,6 +33,18 @@ std::string config_item::arg_type_get_string() const {
         case config_arg_kind::string: break;
     }
     return "string";
+}
+
+bool config_item::arg_set_int32(std::int32_t value) {
+    if (arg_kind != config_arg_kind::int32) return false;
+    arg = value;
+    return true;
+}
+
+bool config_item::arg_set_uint32(std::uint32_t value) {
+    if (arg_kind != config_arg_kind::uint32) return false;
+    arg = value;
+    return true;
 }
 
 bool config_item::arg_set(const char* in) {
@@ -67,8 +80,8 @@ void config_item::format_validate() {
     if (!cfg->takes_argument()) return;
     const char* const value = cfg->pl_setting.value;
     const char* const fragment = cfg->dt_fragment;
-    if ((value != nullptr) == (fragment != nullptr))
-        __error("check_string == NULL", "hwknobs/hwknobs_img", 919, "void config_item::format_validate()");
+    constexpr assertion_site site{"hwknobs/hwknobs_img", "void config_item::format_validate()"};
+    check_invariant((value != nullptr) != (fragment != nullptr), "check_string == NULL", site, 919);
 
     const template_check check = check_template(value != nullptr ? value : fragment, [this](std::string_view allowed) {
         if (std::ranges::find(allowed_values, allowed) != allowed_values.end()) return false;

@@ -14,8 +14,8 @@
 
 /// A value: copied freely, pointing at its catalogue entry, which it neither owns nor changes.
 ///
-/// `arg` holds a signed 0 until an argument is set, and afterwards the alternative that `arg_kind` names. Nothing
-/// converts: reading an argument of another kind throws std::bad_variant_access.
+/// `arg` holds a signed 0 until one of the setters sets it, and afterwards the alternative that `arg_kind` names.
+/// Nothing converts: reading an argument of another kind throws std::bad_variant_access.
 struct config_item {
     std::uint32_t number;       ///< the id (version 2) or the row number as typed (version 0)
     const hwknobs_config* cfg;  ///< never null
@@ -29,6 +29,10 @@ struct config_item {
 
     /// "none", "int32", "uint32" or "string".
     std::string arg_type_get_string() const;
+
+    /// Set a number. False, with nothing changed, for items that take no number of that kind.
+    bool arg_set_int32(std::int32_t value);
+    bool arg_set_uint32(std::uint32_t value);
 
     /// Sets a string argument: at most 4095 letters, digits, ",", "-" and "_". False, with nothing changed, for other
     /// texts and for items that take no string; ends the process when the text is not one of the allowed values.

@@ -68,9 +68,8 @@ void set_signed_argument(config_item& item, const char* value) {
     } catch (const std::out_of_range&) {
         error("config number out of range %s", value);
     }
-    if (item.arg_kind == config_arg_kind::int32) item.arg = std::int32_t{number};
-    else if (item.arg_kind == config_arg_kind::uint32 && number >= 0) item.arg = static_cast<std::uint32_t>(number);
-    else argument_mismatch(item);
+    if (item.arg_set_int32(number)) return;
+    if (number < 0 || !item.arg_set_uint32(static_cast<std::uint32_t>(number))) argument_mismatch(item);
 }
 
 [[noreturn]] void uint32_out_of_range(const char* value) { error("config number out of range (uint32) %s", value); }
@@ -85,8 +84,7 @@ void set_unsigned_argument(config_item& item, const char* value) {
         uint32_out_of_range(value);
     }
     if (number > std::numeric_limits<std::uint32_t>::max()) uint32_out_of_range(value);
-    if (item.arg_kind != config_arg_kind::uint32) argument_mismatch(item);
-    item.arg = static_cast<std::uint32_t>(number);
+    if (!item.arg_set_uint32(static_cast<std::uint32_t>(number))) argument_mismatch(item);
 }
 
 void set_argument(config_item& item, const char* word) {

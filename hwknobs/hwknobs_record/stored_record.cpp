@@ -20,7 +20,7 @@ constexpr std::size_t value_size_limit = 4096;
 //
 // The C library is asked for the whole match alone, and the capture is cut out of it: to find a capture itself, the
 // library goes over each match a second time, backwards, which takes five times as long as all other work of a read.
-// REG_STARTEND, which Android's C library has too, saves it from looking for the text's end again with each line.
+// REG_STARTEND, which Android's C library has too, spares it looking for the end of the text with each line.
 class pattern {
 public:
     // `label` begins the message with which the process ends when the pattern does not compile.
@@ -80,13 +80,17 @@ private:
     void read_argument(config_item& item, std::string_view value) const {
         switch (item.arg_kind) {
             case config_arg_kind::none: return;
-            case config_arg_kind::int32:
-                item.arg = static_cast<std::int32_t>(std::strtol(numeric_.capture(value).c_str(), nullptr, 10));
+            case config_arg_kind::int32: {
+                const std::string digits = numeric_.capture(value);
+                item.arg_set_int32(static_cast<std::int32_t>(std::strtol(digits.c_str(), nullptr, 10)));
                 return;
-            case config_arg_kind::uint32:
-                store_unsigned(item,
-                               static_cast<std::uint32_t>(std::strtoul(numeric_.capture(value).c_str(), nullptr, 10)));
+            }
+            case config_arg_kind::uint32: {
+                const std::string digits = numeric_.capture(value);
+                if (!item.arg_set_uint32(static_cast<std::uint32_t>(std::strtoul(digits.c_str(), nullptr, 10))))
+                    error("nivalid argument, expect %s", item.arg_type_get_string().c_str());
                 return;
+            }
             case config_arg_kind::string:
                 if (!item.arg_set(string_.capture(value).c_str()))
                     error("invalid argument, expect %s", item.arg_type_get_string().c_str());
@@ -94,13 +98,11 @@ private:
         }
     }
 
-    static void store_unsigned(config_item& item, std::uint32_t value) {
-        if (item.arg_kind != config_arg_kind::uint32)
-            error("nivalid argument, expect %s", item.arg_type_get_string().c_str());
-        item.arg = value;
-    }
-
+    // They are narrow on purpose: a numeric argument is digits only, so that a negative one reads as 0; a string
+    // argument is letters, "_" and "-" only, so that any other reads as empty.
     pattern line_{R"re(item[^=]* = "([^"]*)")re", R"( = ")", "Regex"};
+    // Never read, as the id decides which setting is meant. Compiled all the same: a C library that cannot compile it
+    // ends the run with the message that belongs to it.
     pattern command_{R"(Activate  ([a-zA-Z0-9_-]*)\()", "Activate  ", "regex_command"};
     pattern index_{R"(\(([0-9]*)\))", "(", "regex_index"};
     pattern numeric_{R"(\[arg=([0-9]*)\])", "[arg=", "regex_arg"};
@@ -132,7 +134,7 @@ void save_hwknobs_effect_status(const char* plat, const char* dts, std::vector<c
     for (std::string_view rest = dts; !rest.empty();) {
         const auto line = reader.next_line(rest);
         if (!line) return;
-        // Only behind items that were taken the search goes on: a line that cannot be taken is met for ever.
+        // The search advances only past items that were taken: a rejected line is found again, forever.
         if (line->capture.size() >= value_size_limit) continue;
         auto item = reader.read(platform, line->capture);
         if (!item) continue;
