@@ -65,7 +65,7 @@ void hwknobs_generate_partimage(const char* partition, const char* name, const c
                                 const char* dts, bool boot_failure_recovery) {
     const malloced<partition_layout> image = make_image();
     image->plenv = hwknobs_plenv_build(plenv);  // before the clearing: what cannot be stored costs nothing
-    hwknobs_partimage_clear(hwknobs_default_partition, CLEAR_ALL);
+    hwknobs_partimage_clear(hwknobs_default_partition, partimage_clear_mode::all);
 
     copy_text(image->info.name, name);
     copy_text(image->info.platform, plat);
@@ -81,9 +81,10 @@ void hwknobs_generate_partimage(const char* partition, const char* name, const c
     write_whole(file, partition, image.get(), image_size(blob_size, boot_failure_recovery));
 }
 
-void hwknobs_partimage_clear(const char* partition, int mode) {
+void hwknobs_partimage_clear(const char* partition, partimage_clear_mode mode) {
+    using enum partimage_clear_mode;
     constexpr const char* function_name = "hwknobs_partimage_clear";
-    debug("%s: filename %s action %d", function_name, partition, mode);
+    debug("%s: filename %s action %d", function_name, partition, static_cast<int>(mode));
     if (partition == nullptr) error("No boot para available");
     const unique_fd file(open(partition, O_RDWR | O_SYNC | O_CLOEXEC));
     if (!file) error("Cannot open output file %s", partition);
@@ -91,9 +92,9 @@ void hwknobs_partimage_clear(const char* partition, int mode) {
     const long size = lseek(file.get(), 0, SEEK_END);
     if (size < partition_size_min) error("Partition size too small %ld", size);
     if (size > partition_size_max) error("%s: partition size too large", function_name);
-    if (mode < CLEAR_ALL || mode > CLEAR_DDR_DATA) error("Unsupport argument %d", mode);
-    const long start = mode == CLEAR_DDR_DATA ? settings_area_size : 0;
-    const long end = mode == CLEAR_SETTINGS ? settings_area_size : size;
+    if (mode < all || mode > ddr_data) error("Unsupport argument %d", static_cast<int>(mode));
+    const long start = mode == ddr_data ? settings_area_size : 0;
+    const long end = mode == settings ? settings_area_size : size;
     debug("start offset %ld end offset %ld", start, end);
 
     if (lseek(file.get(), start, SEEK_SET) == -1)

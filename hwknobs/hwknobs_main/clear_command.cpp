@@ -18,13 +18,13 @@ partimage_clear_mode parse_clear_command(int argc, char** argv) {
     };
     int option_index = -1;
     const int result = getopt_long(argc, argv, "", long_options, &option_index);
-    if (result == -1) return CLEAR_SETTINGS;
+    if (result == -1) return partimage_clear_mode::settings;
     if (result != 0) std::exit(1);
     const std::string_view name =
         option_name(long_options, option_index, 711, "void parse_clear_command(const char *, const int, char **)");
-    if (name == "all") return CLEAR_ALL;
-    if (name == "hwknobs-data") return CLEAR_SETTINGS;
-    if (name == "ddr-data") return CLEAR_DDR_DATA;
+    if (name == "all") return partimage_clear_mode::all;
+    if (name == "hwknobs-data") return partimage_clear_mode::settings;
+    if (name == "ddr-data") return partimage_clear_mode::ddr_data;
     error("Unknown hwknobs clear option");
 }
 
