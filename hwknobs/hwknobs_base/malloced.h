@@ -1,3 +1,4 @@
+// Ownership of memory from malloc().
 #pragma once
 
 #include <cstdlib>
@@ -7,6 +8,6 @@ struct free_malloced {
     void operator()(void* memory) const { std::free(memory); }
 };
 
-/// Owns memory from malloc() and its like, where an interface or the allocator's ways ask for it.
+/// Owns memory from malloc(), calloc() or realloc(), for interfaces that hand such memory over.
 template <class T>
 using malloced = std::unique_ptr<T, free_malloced>;

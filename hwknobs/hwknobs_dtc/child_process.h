@@ -1,4 +1,4 @@
-// What the two users of child processes share.
+// Starting a child process: pipes, fork, signals.
 #pragma once
 
 #include "hwknobs_base/unique_fd.h"

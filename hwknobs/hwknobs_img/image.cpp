@@ -39,9 +39,8 @@ bool hwknobs_image::item_update(const config_item& in) {
         items.push_back(in);
         return true;
     }
-    if (!pos->arg_copy(in))
-        __error("pos->arg_copy(in)", "hwknobs/hwknobs_img", 786,
-                "bool hwknobs_image::item_update(const config_item &)");
+    constexpr assertion_site site{"hwknobs/hwknobs_img", "bool hwknobs_image::item_update(const config_item &)"};
+    check_invariant(pos->arg_copy(in), "pos->arg_copy(in)", site, 786);
     return true;
 }
 

@@ -1,4 +1,4 @@
-// What the export and the import share.
+// An XML document in memory, and its texts.
 #pragma once
 
 #include <libxml/parser.h>

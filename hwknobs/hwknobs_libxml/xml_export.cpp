@@ -12,16 +12,13 @@ namespace {
 constexpr std::string_view document_template =
     "<?xml version=\"1.0\"?>\n<hwknobs name=\"dummy\" platform=\"dummy\">\n</hwknobs>\n";
 
-void check(bool holds, const char* expr, int line) {
-    if (!holds)
-        __error(expr, "hwknobs/hwknobs_libxml", line,
-                "void hwknobs_xmlconfig_show(const char *, std::unique_ptr<hwknobs_image> &)");
-}
+constexpr assertion_site export_site{"hwknobs/hwknobs_libxml",
+                                     "void hwknobs_xmlconfig_show(const char *, std::unique_ptr<hwknobs_image> &)"};
 
 // The text nodes give the file its line layout: the library indents nothing inside elements that hold text.
 void add_newline(xmlNodePtr node) {
     xmlNodePtr nl = xmlNewText(xml_text("\n"));
-    if (nl == nullptr) __error("nl != NULL", "hwknobs/hwknobs_libxml", 21, "void add_newline(xmlNodePtr)");
+    check_invariant(nl != nullptr, "nl != NULL", {"hwknobs/hwknobs_libxml", "void add_newline(xmlNodePtr)"}, 21);
     xmlAddChild(node, nl);
 }
 
@@ -33,24 +30,26 @@ std::string item_comment(const std::vector<config_item>& items) {
 
 void add_comment(xmlNodePtr root, const std::vector<config_item>& items) {
     xmlNodePtr comment = xmlNewComment(xml_text(item_comment(items).c_str()));
-    check(comment != nullptr, "comment_elem != NULL", 52);
+    check_invariant(comment != nullptr, "comment_elem != NULL", export_site, 52);
     xmlAddChild(root, comment);
     add_newline(root);
 }
 
 void add_plsetting(xmlNodePtr root, const std::vector<config_item>& items) {
     xmlNodePtr plsetting = xmlNewChild(root, nullptr, xml_text("plsetting"), nullptr);
-    check(plsetting != nullptr, "plsetting_elem != NULL", 59);
+    check_invariant(plsetting != nullptr, "plsetting_elem != NULL", export_site, 59);
     add_newline(plsetting);
     for (const config_item& item : items) {
         const auto plenv = item.plenv_get();
         if (!plenv) continue;
         xmlNodePtr element = xmlNewChild(plsetting, nullptr, xml_text("item"), nullptr);
-        check(element != nullptr, "itemelem != NULL", 64);
-        check(xmlNewProp(element, xml_text("key"), xml_text(plenv->first.c_str())) != nullptr,
-              "xmlNewProp(itemelem, BAD_CAST \"key\", BAD_CAST plenv.value().first.c_str()) != NULL", 66);
-        check(xmlNewProp(element, xml_text("value"), xml_text(plenv->second.c_str())) != nullptr,
-              "xmlNewProp(itemelem, BAD_CAST \"value\", BAD_CAST plenv.value().second.c_str()) != NULL", 68);
+        check_invariant(element != nullptr, "itemelem != NULL", export_site, 64);
+        check_invariant(xmlNewProp(element, xml_text("key"), xml_text(plenv->first.c_str())) != nullptr,
+                        "xmlNewProp(itemelem, BAD_CAST \"key\", BAD_CAST plenv.value().first.c_str()) != NULL",
+                        export_site, 66);
+        check_invariant(xmlNewProp(element, xml_text("value"), xml_text(plenv->second.c_str())) != nullptr,
+                        "xmlNewProp(itemelem, BAD_CAST \"value\", BAD_CAST plenv.value().second.c_str()) != NULL",
+                        export_site, 68);
         add_newline(plsetting);
     }
     add_newline(root);
@@ -58,7 +57,7 @@ void add_plsetting(xmlNodePtr root, const std::vector<config_item>& items) {
 
 void add_dtbo(xmlDocPtr document, xmlNodePtr root, const std::string& dts) {
     xmlNodePtr dtbo = xmlNewChild(root, nullptr, xml_text("dtbo"), nullptr);
-    check(dtbo != nullptr, "dtbo_elem != NULL", 75);
+    check_invariant(dtbo != nullptr, "dtbo_elem != NULL", export_site, 75);
     xmlAddChild(dtbo, xmlNewCDataBlock(document, xml_text(dts.data()), static_cast<int>(dts.size())));
     add_newline(root);
 }
@@ -68,9 +67,9 @@ void add_dtbo(xmlDocPtr document, xmlNodePtr root, const std::string& dts) {
 void hwknobs_xmlconfig_show(const char* /*partition*/, std::unique_ptr<hwknobs_image>& image) {
     {
         const xml_document document = parse_xml(document_template.data(), static_cast<int>(document_template.size()));
-        check(document != nullptr, "xmldoc != NULL", 36);
+        check_invariant(document != nullptr, "xmldoc != NULL", export_site, 36);
         xmlNodePtr root = xmlDocGetRootElement(document.get());
-        check(root != nullptr, "setting_elem != NULL", 39);
+        check_invariant(root != nullptr, "setting_elem != NULL", export_site, 39);
         if (!is_element(root, "hwknobs")) error("Template doesn't contain hwknobs root element");
         xmlSetProp(root, xml_text("platform"), xml_text(image->plat->name));
         add_comment(root, image->items);

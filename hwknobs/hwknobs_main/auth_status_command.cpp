@@ -15,8 +15,7 @@ namespace {
 
 constexpr const char* chosen_node = "/proc/device-tree/chosen";
 
-// As many bytes of a code are read. One code of the second stage is longer and so is never known; this is as it has
-// always been.
+// Codes are read up to this length. One code of the second stage is longer and never matches, as scripts expect.
 constexpr std::size_t code_size_max = 31;
 
 struct status_message {

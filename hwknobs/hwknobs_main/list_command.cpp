@@ -58,22 +58,22 @@ std::array<char, 128> group_text(u64 mask) {
     for (const hwknobs_group group : hwknobs_groups) {
         if ((mask & group_bit(group)) == 0) continue;
         const int length = std::snprintf(text.data() + used, text.size() - used, " %s ", get_hwknobs_group_name(group));
-        if (length <= 0)
-            __error("sprintf(buf + strlen(buf), \" %s \", get_hwknobs_group_name(i)) > 0", "hwknobs/hwknobs_main", 103,
-                    "void __group_msg(char *, const char **, u64)");
+        check_invariant(length > 0, "sprintf(buf + strlen(buf), \" %s \", get_hwknobs_group_name(i)) > 0",
+                        {"hwknobs/hwknobs_main", "void __group_msg(char *, const char **, u64)"}, 103);
         used += static_cast<std::size_t>(length);
     }
     return text;
 }
 
 std::array<char, 256> list_summary(std::size_t config_num, u64 mask) {
-    constexpr const char* function = "void __print_list(const struct hwknobs_plat *, u64)";
+    constexpr assertion_site site{"hwknobs/hwknobs_main", "void __print_list(const struct hwknobs_plat *, u64)"};
     std::array<char, 256> msg{};
     if (mask == 0) {
-        if (std::snprintf(msg.data(), msg.size(), "num:%u", static_cast<unsigned int>(config_num)) <= 0)
-            __error("snprintf(msg, sizeof(msg), \"num:%u\", config_num) > 0", "hwknobs/hwknobs_main", 134, function);
-    } else if (std::snprintf(msg.data(), msg.size(), "group selected:(%s)", group_text(mask).data()) <= 0) {
-        __error("snprintf(msg, sizeof(msg), \"group selected:(%s)\", grp) > 0", "hwknobs/hwknobs_main", 131, function);
+        check_invariant(std::snprintf(msg.data(), msg.size(), "num:%u", static_cast<unsigned int>(config_num)) > 0,
+                        "snprintf(msg, sizeof(msg), \"num:%u\", config_num) > 0", site, 134);
+    } else {
+        check_invariant(std::snprintf(msg.data(), msg.size(), "group selected:(%s)", group_text(mask).data()) > 0,
+                        "snprintf(msg, sizeof(msg), \"group selected:(%s)\", grp) > 0", site, 131);
     }
     return msg;
 }

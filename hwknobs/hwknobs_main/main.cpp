@@ -94,8 +94,8 @@ int run(int argc, char** argv) {
     error("Unknown command '%s'", argv[0]);
 }
 
-// A partition that is opened while descriptor 1 is free would become the standard output. What takes its place is open
-// the wrong way round, so that output that nobody gets is still a failure.
+// A partition that is opened while descriptor 1 is free would become the standard output. /dev/null takes its place:
+// descriptor 1 is opened read-only, so that writing to a closed standard output still fails, and 0 write-only.
 void occupy_standard_descriptors() {
     for (const int fd : {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO})
         if (fcntl(fd, F_GETFD) == -1) static_cast<void>(open("/dev/null", fd == STDIN_FILENO ? O_WRONLY : O_RDONLY));

@@ -9,9 +9,10 @@ void restart_option_parser() {
     optind = 0;
 }
 
-const char* option_name(std::span<const option> options, int index, int line, const char* function) {
-    if (index < 0 || static_cast<std::size_t>(index) >= options.size())
-        __error("(option_index >= 0) && (option_index < (sizeof(long_options) / sizeof(long_options[0])))",
-                "hwknobs/hwknobs_main", line, function);
-    return options[static_cast<std::size_t>(index)].name;
+std::string_view option_name(std::span<const option> options, int index, int line, const char* function) {
+    check_invariant(index >= 0 && static_cast<std::size_t>(index) < options.size(),
+                    "(option_index >= 0) && (option_index < (sizeof(long_options) / sizeof(long_options[0])))",
+                    {"hwknobs/hwknobs_main", function}, line);
+    const char* const name = options[static_cast<std::size_t>(index)].name;
+    return name != nullptr ? name : "";
 }

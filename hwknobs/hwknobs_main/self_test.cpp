@@ -14,17 +14,19 @@ constexpr std::size_t name_length_max = 31;
 
 using seen_ids = std::bitset<1024>;
 
-struct self_test_counters {
+// Numbers the tests and counts their results.
+struct test_report {
     unsigned int passed = 0;
     unsigned int failed = 0;
-} counters;
 
-// The asymmetry of the newlines is known to those who parse the report: a test's name ends in one of its own.
-void report(bool passed, const char* name) {
-    ++(passed ? counters.passed : counters.failed);
-    const unsigned int number = counters.passed + counters.failed;
-    std::printf(passed ? "ok %u %s" : "not ok %u %s\n", number, name);
-}
+    unsigned int run() const { return passed + failed; }
+
+    // The uneven newlines are fixed: names that are passed in end with one.
+    void add(bool good, const char* name) {
+        ++(good ? passed : failed);
+        std::printf(good ? "ok %u %s" : "not ok %u %s\n", run(), name);
+    }
+};
 
 bool check_id(const hwknobs_config& config, const char* name, seen_ids& seen) {
     if (config.id >= seen.size()) {
@@ -97,13 +99,14 @@ int hwknobs_self_test() {
     std::puts("----------------- run self test ----------------------------");
     const hwknobs_plat& plat = *hwknobs_get_plat(nullptr);
     std::printf("prepare testcase: %u\n", planned_tests);
-    report(check_platform(plat), "Check hwknobs_plat by current platform.\n");
-    report(check_configs(plat), "Check hwknobs_config (v2) by current platform.\n");
+    test_report report;
+    report.add(check_platform(plat), "Check hwknobs_plat by current platform.\n");
+    report.add(check_configs(plat), "Check hwknobs_config (v2) by current platform.\n");
     std::puts("-----------------------------------------------------------");
-    const unsigned int run_tests = counters.passed + counters.failed;
-    if (run_tests != planned_tests) std::printf("# Planned tests != run tests (%u != %u)\n", planned_tests, run_tests);
-    std::printf("# Totals: pass:%u fail:%u skip:%d error:%d\n", counters.passed, counters.failed, 0, 0);
-    return counters.failed != 0 ? 2 : 0;
+    if (report.run() != planned_tests)
+        std::printf("# Planned tests != run tests (%u != %u)\n", planned_tests, report.run());
+    std::printf("# Totals: pass:%u fail:%u skip:%d error:%d\n", report.passed, report.failed, 0, 0);
+    return report.failed != 0 ? 2 : 0;
 }
 
 int run_selftest_command(const global_options& /*global*/, int /*argc*/, char** /*argv*/) {

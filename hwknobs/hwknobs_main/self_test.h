@@ -1,3 +1,4 @@
+// The self test of the catalogue.
 #pragma once
 
 #include "hwknobs_plat/platform.h"

@@ -65,7 +65,7 @@ std::unique_ptr<hwknobs_image> change_stored(const global_options& global, set_m
                                              const std::vector<config_item>& items) {
     auto image = hwknobs_image::get(global.file);
     if (image == nullptr) return nullptr;
-    // Equality it is: naming the stored platform is refused, naming another one passes.
+    // Inverted on purpose: naming the stored platform is refused, naming another one passes.
     if (global.plat != nullptr && std::string_view(global.plat) == image->plat->name)
         error("platform name mismatch between setting and partition");
     (mode == set_mode::remove ? remove_items : update_items)(*image, items);
@@ -85,9 +85,9 @@ void write_image(const hwknobs_image& image, const char* path) {
 void parse_set_command(const global_options& global, int argc, char** argv, bool by_name) {
     const set_options options = parse_set_options(argc, argv);
     const int item_argc = argc - optind;
-    if (item_argc < 0)
-        __error("item_argc >= 0", "hwknobs/hwknobs_main", 459,
-                "void parse_set_command(const char *, const char *, const int, char **, bool)");
+    constexpr assertion_site site{"hwknobs/hwknobs_main",
+                                  "void parse_set_command(const char *, const char *, const int, char **, bool)"};
+    check_invariant(item_argc >= 0, "item_argc >= 0", site, 459);
     char** const item_argv = argv + optind;
     restart_option_parser();
     const auto items = parse_item_set(item_argc, item_argv, global.plat, options.mode != set_mode::remove, by_name);

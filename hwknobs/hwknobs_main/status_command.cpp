@@ -19,14 +19,7 @@ namespace {
 
 constexpr int shown_items_max = 1024;
 
-// The lines that reports of this command's broken invariants name.
-constexpr int missing_property_line = 583;
-constexpr int item_name_line = 594;
-constexpr int option_index_line = 630;
-
-void check(bool holds, const char* expr, int line) {
-    if (!holds) __error(expr, "hwknobs/hwknobs_main", line, "bool hwknobs_system_status()");
-}
+constexpr assertion_site system_status_site{"hwknobs/hwknobs_main", "bool hwknobs_system_status()"};
 
 // The property as text, as far as its first NUL; cut to 255 bytes.
 std::optional<std::string> dt_read_string(int dirfd, const char* name) {
@@ -46,8 +39,8 @@ std::optional<std::string> dt_read_string(int dirfd, const char* name) {
 void print_system_items(int dirfd) {
     for (int i = 0; i < shown_items_max; ++i) {
         std::array<char, 32> item_name{};
-        check(std::snprintf(item_name.data(), item_name.size(), "%s%d", stored_record::item, i) > 0,
-              "snprintf(item_name, sizeof(item_name), \"item%d\", i) > 0", item_name_line);
+        check_invariant(std::snprintf(item_name.data(), item_name.size(), "%s%d", stored_record::item, i) > 0,
+                        "snprintf(item_name, sizeof(item_name), \"item%d\", i) > 0", system_status_site, 594);
         const auto text = dt_read_string(dirfd, item_name.data());
         if (!text) return;
         std::printf("   %s\n", text->c_str());
@@ -64,8 +57,8 @@ bool hwknobs_system_status() {
     const auto date = dt_read_string(node.get(), stored_record::timestamp);
     const auto platform = dt_read_string(node.get(), stored_record::platform);
     const auto failure_recovery = dt_read_string(node.get(), stored_record::boot_failure_recovery);
-    check(command && date && platform && failure_recovery, "command && date && platform && failure_recovery",
-          missing_property_line);
+    check_invariant(command && date && platform && failure_recovery, "command && date && platform && failure_recovery",
+                    system_status_site, 583);
     std::printf("<<system>> hwknobs '%s' command at %s\n", command->c_str(), date->c_str());
     std::printf("   plat %s boot recovery %s\n", platform->c_str(), failure_recovery->c_str());
     if (*command == set_command_word) print_system_items(node.get());
@@ -85,10 +78,10 @@ int parse_status_command(const char* partition, int argc, char** argv) {
     const int result = getopt_long(argc, argv, "", long_options, &option_index);
     if (result > 0) std::exit(1);
     if (result == 0) {
-        const std::string_view name = option_name(long_options, option_index, option_index_line,
-                                                  "int parse_status_command(const char *, const int, char **)");
+        const std::string_view name =
+            option_name(long_options, option_index, 630, "int parse_status_command(const char *, const int, char **)");
         if (name == "partition") return hwknobs_partimage_dump(partition) ? 1 : 0;
-        if (name != "system") error("Unknown option %s\n", long_options[option_index].name);
+        if (name != "system") error("Unknown option %s\n", std::string(name).c_str());
     }
     hwknobs_system_status();
     return 0;

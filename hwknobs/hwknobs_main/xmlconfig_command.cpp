@@ -11,11 +11,8 @@
 
 namespace {
 
-void check(bool holds, const char* expr, int line) {
-    if (!holds)
-        __error(expr, "hwknobs/hwknobs_main", line,
-                "void parse_xmlconfig_set_command(const char *, const int, char **)");
-}
+constexpr assertion_site import_site{"hwknobs/hwknobs_main",
+                                     "void parse_xmlconfig_set_command(const char *, const int, char **)"};
 
 std::FILE* open_input(const char* path) {
     std::FILE* const file = std::fopen(path, "r");
@@ -30,7 +27,7 @@ std::vector<char> read_all(std::FILE* file) {
     while (std::feof(file) == 0 && std::ferror(file) == 0) {
         std::array<char, 4096> buf{};
         const std::size_t n = std::fread(buf.data(), 1, buf.size(), file);
-        check(n < buf.size(), "n < sizeof(buf)", 537);
+        check_invariant(n < buf.size(), "n < sizeof(buf)", import_site, 537);
         data.insert(data.end(), buf.begin(), buf.begin() + static_cast<std::ptrdiff_t>(n));
     }
     return data;
@@ -42,7 +39,7 @@ void parse_xmlconfig_set_command(const char* partition, int argc, char** argv) {
     std::FILE* const infp = from_stdin ? stdin : open_input(argv[1]);
     const std::vector<char> data = read_all(infp);
     hwknobs_xmlconfig_parse(partition, data.data(), static_cast<int>(data.size()));
-    if (!from_stdin) check(std::fclose(infp) != EOF, "fclose(infp) != EOF", 543);
+    if (!from_stdin) check_invariant(std::fclose(infp) != EOF, "fclose(infp) != EOF", import_site, 543);
     std::puts("config generate ok");
 }
 

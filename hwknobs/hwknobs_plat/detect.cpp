@@ -34,8 +34,8 @@ std::optional<std::uint16_t> read_hw_code_file() {
     unsigned short code = 0;
     // The kernel writes one number; of a larger one the low 16 bits count.
     const bool converted = std::fscanf(file, "%hx", &code) == 1;  // NOLINT(cert-err34-c)
-    if (std::fclose(file) == EOF)
-        __error("fclose(fp) != EOF", "hwknobs/hwknobs_plat", 78, "int file_read_short(const char *, short *)");
+    constexpr assertion_site site{"hwknobs/hwknobs_plat", "int file_read_short(const char *, short *)"};
+    check_invariant(std::fclose(file) != EOF, "fclose(fp) != EOF", site, 78);
     if (!converted) return std::nullopt;
     return code;
 }

@@ -233,7 +233,7 @@ constexpr std::size_t plenv_size_of_all(std::span<const hwknobs_config> rows) {
     return total;
 }
 
-// Names met so far, in open slots by a hash: comparing each with each would take more steps than compilers allow.
+// The names met so far, in a hash table: pairwise comparison exceeds the compilers' limit of constant evaluation.
 class name_set {
 public:
     constexpr bool insert(std::string_view name) {
