@@ -1,9 +1,10 @@
 # What the scripts of this repository need from Debian 12. Sourced.
 # shellcheck shell=bash disable=SC2034 # used by those who source this
 
-build_packages=(g++ cmake ninja-build libxml2-dev libfmt-dev)
+build_packages=(g++ cmake ninja-build libxml2-dev libfmt-dev nlohmann-json3-dev)
 device_packages=(bubblewrap device-tree-compiler)
 test_packages=(bats libgtest-dev libgmock-dev strace shellcheck clang clang-format clang-tidy man-db mandoc)
+page_test_packages=(chromium chromium-driver python3-selenium)
 
 # Installs those of the packages that the machine lacks, and says so.
 need_packages() {
