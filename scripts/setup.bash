@@ -3,7 +3,7 @@
 
 build_packages=(g++ cmake ninja-build libxml2-dev libfmt-dev nlohmann-json3-dev)
 device_packages=(bubblewrap device-tree-compiler)
-test_packages=(bats libgtest-dev libgmock-dev strace shellcheck clang clang-format clang-tidy man-db mandoc)
+test_packages=(bats libgtest-dev libgmock-dev strace shellcheck clang clang-format clang-tidy man-db mandoc zsh fish)
 page_test_packages=(chromium chromium-driver python3-selenium)
 
 # Installs those of the packages that the machine lacks, and says so.
