@@ -83,6 +83,10 @@ DEBUG: start offset 0 end offset 1048577" ]]
   hwknobs partition setting doesn't exist"
     expect 1 "$none" hwknobs status --partition
     expect 1 "$none" hwknobs --file=none status --partition
+    expect 1 "DEBUG: load filename .
+DEBUG: load: boot para read failed, size mismatch 0
+
+$none" hwknobs --verbose --file=. status --partition
     hwknobs setname kaslr_disable
     cp "$DEV/boot_para" "$DEV/good"
     local offset value said

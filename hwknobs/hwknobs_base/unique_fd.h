@@ -3,6 +3,7 @@
 
 #include <unistd.h>
 
+#include <cerrno>
 #include <cstddef>
 #include <utility>
 
@@ -31,14 +32,15 @@ private:
     int fd_ = -1;
 };
 
-/// Reads until `size` bytes are there or the file ends. Returns the bytes read, or -1 (see errno) when a read fails.
-inline ssize_t read_fully(int fd, void* buffer, std::size_t size) {
+/// Reads until `size` bytes are there, the file ends or a read fails. Returns the bytes read; where they are fewer,
+/// errno tells why (ENODATA: the file ended).
+inline std::size_t read_fully(int fd, void* buffer, std::size_t size) {
     std::size_t done = 0;
     while (done < size) {
         const ssize_t n = read(fd, static_cast<char*>(buffer) + done, size - done);
-        if (n < 0) return -1;
-        if (n == 0) break;
+        if (n == 0) errno = ENODATA;
+        if (n <= 0) break;
         done += static_cast<std::size_t>(n);
     }
-    return static_cast<ssize_t>(done);
+    return done;
 }

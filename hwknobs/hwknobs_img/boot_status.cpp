@@ -6,7 +6,6 @@
 
 #include <fcntl.h>
 
-#include <algorithm>
 #include <cerrno>
 #include <cstdio>
 #include <cstring>
@@ -23,10 +22,9 @@ bool hwknobs_boot_status(const char* partition) {
     if (lseek(file.get(), offset, SEEK_SET) != offset)
         error("Cannot lseek file %s (%s)", partition, std::strerror(errno));
     le32 word;
-    const ssize_t count = read_fully(file.get(), &word, sizeof(word));
-    if (count != static_cast<ssize_t>(sizeof(word))) {
-        debug("%s: boot para read hwknobs header failed, size mismatch %zu\n", function_name,
-              static_cast<std::size_t>(std::max<ssize_t>(count, 0)));
+    const std::size_t count = read_fully(file.get(), &word, sizeof(word));
+    if (count < sizeof(word)) {
+        debug("%s: boot para read hwknobs header failed, size mismatch %zu\n", function_name, count);
         return false;
     }
     std::printf("hwknobs boot status = 0x%x\n", static_cast<std::uint32_t>(word));

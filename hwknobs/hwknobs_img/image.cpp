@@ -15,8 +15,8 @@ hwknobs_image::hwknobs_image(const char* name, const char* plat, const std::vect
 std::unique_ptr<hwknobs_image> hwknobs_image::get(const char* partition) {
     const auto stored = hwknobs_partimage::load(partition);
     if (stored == nullptr) return nullptr;
-    // Without source nothing tells which items are stored. Going on would write the setting without them.
-    if (stored->dts.empty())
+    // Nothing tells which items are stored. Going on would write the setting without them.
+    if (stored->overlay_unreadable)
         error("Cannot change the setting in %s: '%s' gave no source for it, the stored items are unknown", partition,
               hwknobs_dt_compiler());
     std::unique_ptr<hwknobs_image> image(new hwknobs_image(stored->plat));

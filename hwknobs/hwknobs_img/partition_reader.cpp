@@ -4,6 +4,7 @@
 #include "hwknobs_base/malloced.h"
 #include "hwknobs_base/unique_fd.h"
 #include "hwknobs_dtc/dt_compiler.h"
+#include "hwknobs_dtc/flattened_tree.h"
 #include "hwknobs_record/stored_record.h"
 
 #include <fcntl.h>
@@ -20,20 +21,11 @@ constexpr std::string_view settings_section_name{"hwknobs", sizeof("hwknobs")}; 
 // The settings header and the fields of the setting info, as far as the reader looks at them.
 constexpr std::size_t info_size_read = offsetof(setting_info, padding);
 
-// A failed read is no sign of an empty partition: taken for one, it would make `set -m` drop what is stored.
-std::size_t read_or_fail(const unique_fd& file, const char* path, void* buffer, std::size_t size) {
-    const ssize_t n = read_fully(file.get(), buffer, size);
-    if (n < 0) error("Cannot read file %s (%s)", path, std::strerror(errno));
-    return static_cast<std::size_t>(n);
-}
-
 void read_at(const unique_fd& file, const char* path, std::size_t offset, void* buffer, std::size_t size) {
     if (lseek(file.get(), static_cast<off_t>(offset), SEEK_SET) != static_cast<off_t>(offset))
         error("Cannot lseek file %s (%s)", path, std::strerror(errno));
-    const ssize_t n = read_fully(file.get(), buffer, size);
-    if (n == static_cast<ssize_t>(size)) return;
-    if (n >= 0) errno = ENODATA;  // a short read sets no errno; the partition ends early
-    error("Cannot read file %s dt blob (%s)", path, std::strerror(errno));
+    if (read_fully(file.get(), buffer, size) < size)
+        error("Cannot read file %s dt blob (%s)", path, std::strerror(errno));
 }
 
 struct setting_head {
@@ -42,10 +34,10 @@ struct setting_head {
     bool boot_failure_recovery;
 };
 
-// Reads the first section header and the setting info. Nothing where there is no setting.
-std::optional<setting_head> read_head(const unique_fd& file, const char* path) {
+// Reads the first section header and the setting info. Nothing where there is no setting, or where it cannot be read.
+std::optional<setting_head> read_head(const unique_fd& file) {
     section_header header;
-    const std::size_t header_read = read_or_fail(file, path, &header, sizeof(header));
+    const std::size_t header_read = read_fully(file.get(), &header, sizeof(header));
     if (header_read < sizeof(header)) {
         debug("%s: boot para read failed, size mismatch %zu\n", "load", header_read);
         return std::nullopt;
@@ -56,7 +48,7 @@ std::optional<setting_head> read_head(const unique_fd& file, const char* path) {
         return std::nullopt;
     }
     setting_info info;
-    const std::size_t info_read = read_or_fail(file, path, &info, info_size_read);
+    const std::size_t info_read = read_fully(file.get(), &info, info_size_read);
     if (info_read < info_size_read) {
         debug("%s: boot para read hwknobs header failed, size mismatch %zu\n", "load", info_read);
         return std::nullopt;
@@ -90,7 +82,7 @@ std::unique_ptr<hwknobs_partimage> hwknobs_partimage::load(const char* partition
         debug("%s: Cannot open file %s", "load", partition);
         return nullptr;
     }
-    const auto head = read_head(file, partition);
+    const auto head = read_head(file);
     if (!head) return nullptr;
 
     plenv_block block;
@@ -101,11 +93,12 @@ std::unique_ptr<hwknobs_partimage> hwknobs_partimage::load(const char* partition
     read_at(file, partition, offsetof(partition_layout, blob), blob.get(), blob_capacity);
     file.reset();
     std::string dts = convert_to_source(blob.get());
+    const bool overlay_unreadable = dts.empty() && is_flattened_tree({blob.get(), blob_capacity});
 
     debug("%s: hwknobs info name:%s plat:%s\n", "load", head->name.c_str(), head->plat.c_str());
     return std::make_unique<hwknobs_partimage>(hwknobs_partimage{head->name, hwknobs_get_plat(head->plat.c_str()),
                                                                  head->boot_failure_recovery, std::move(plenv),
-                                                                 std::move(dts)});
+                                                                 std::move(dts), overlay_unreadable});
 }
 
 bool hwknobs_partimage_dump(const char* partition) {
