@@ -35,18 +35,14 @@ void enlarge_pipe(const unique_fd& end) {
         if (fcntl(end.get(), F_SETPIPE_SZ, size) != -1) return;
 }
 
-// In the child, which must not go on as a second parent: what it printed then would be taken for the source.
-[[noreturn]] void give_up(const char* message) {
-    std::perror(message);
-    _exit(1);
-}
-
+// In the child, which leaves with _exit() where it fails: it must not go on as a second parent, whose output would be
+// taken for the source. The empty source then tells the parent.
 [[noreturn]] void run_shell(pipe_ends& in, pipe_ends& out) {
     out.read.reset();
     in.write.reset();
-    if (dup2(out.write.get(), STDOUT_FILENO) == -1) give_up("dup2 error");
+    if (dup2(out.write.get(), STDOUT_FILENO) == -1) _exit(1);
     out.write.reset();
-    if (dup2(in.read.get(), STDIN_FILENO) == -1) give_up("dup2 error");
+    if (dup2(in.read.get(), STDIN_FILENO) == -1) _exit(1);
     std::array<char, 256> command{};
     std::strncpy(command.data(), hwknobs_dt_compiler(), command.size() - 1);
     std::strncat(command.data(), compiler_options, command.size() - 1 - std::strlen(command.data()));
@@ -54,7 +50,8 @@ void enlarge_pipe(const unique_fd& end) {
     char run_command[] = "-c";
     char* const argv[] = {shell, run_command, command.data(), nullptr};
     execvp(shell, argv);
-    give_up("execvp error");
+    std::perror("execvp error");
+    _exit(1);
 }
 
 char* collect_source(const unique_fd& out) {
@@ -64,8 +61,7 @@ char* collect_source(const unique_fd& out) {
     if (text == nullptr) return fail("alloc buffer error");
     for (;;) {
         const ssize_t n = read(out.get(), text.get() + size, capacity - size);
-        if (n < 0) return fail("read error");
-        if (n == 0) break;
+        if (n < 1) break;
         size += static_cast<std::size_t>(n);
         if (size + read_size > capacity) {
             capacity *= 2;
@@ -102,6 +98,8 @@ char* hwknobs_blob_to_dts(const char* blob, long length) {
     if (write(in.write.get(), blob, static_cast<std::size_t>(length)) == -1 && errno == EAGAIN)
         return fail("pipe full issue\n");
     in.write.reset();
-    if (wait(nullptr) == -1) return fail("wait error");
+    // Before any output is read, so that the compiler has written all of it or failed. How it ended does not count: the
+    // text alone tells.
+    static_cast<void>(wait(nullptr));
     return collect_source(out.read);
 }
