@@ -3,6 +3,7 @@
 #include "hwknobs_base/diagnostics.h"
 #include "hwknobs_dtc/child_process.h"
 #include "hwknobs_dtc/dt_compiler.h"
+#include "hwknobs_dtc/flattened_tree.h"
 
 #include <fcntl.h>
 #include <poll.h>
@@ -162,5 +163,8 @@ std::size_t hwknobs_dt_to_blob(const char* dts, std::span<char> blob) {
     if (!WIFEXITED(status)) error("DTC process exit abnormally");
     if (WEXITSTATUS(status) != 0) report_failed_compile(run, program.data(), WEXITSTATUS(status), dts);
     if (run.source_refused()) error("Write fragment error");
+    // A compiler may fail to write all of its output and not say so.
+    if (is_truncated_tree(blob.first(run.blob_size())))
+        error("DTC '%s' gave a part of the overlay only (%zu bytes)", program.data(), run.blob_size());
     return run.blob_size();
 }
