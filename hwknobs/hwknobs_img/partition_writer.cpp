@@ -45,11 +45,24 @@ std::size_t image_size(std::size_t blob_size, bool boot_failure_recovery) {
 }
 
 // One write() that has to take everything: what the bootloader finds is never put together from several.
-void write_whole(const unique_fd& file, const char* path, const void* data, std::size_t size) {
+bool write_whole(const unique_fd& file, const void* data, std::size_t size) {
     const ssize_t n = write(file.get(), data, size);
-    if (n == static_cast<ssize_t>(size)) return;
+    if (n == static_cast<ssize_t>(size)) return true;
     if (n >= 0) errno = ENOSPC;  // a short write sets no errno; it means the end of the device
-    error("Cannot write file %s (%s)", path, std::strerror(errno));
+    return false;
+}
+
+[[noreturn]] void write_failed(const char* path, int reason) {
+    error("Cannot write file %s (%s)", path, std::strerror(reason));
+}
+
+// Behind its valid first header an incomplete image would be booted with: without the header there is no setting.
+void write_image(const unique_fd& file, const char* path, const partition_layout& image, std::size_t size) {
+    if (write_whole(file, &image, size)) return;
+    const int reason = errno;
+    const section_header no_header{};
+    static_cast<void>(pwrite(file.get(), &no_header, sizeof(no_header), 0));
+    write_failed(path, reason);
 }
 
 // Zeroed by calloc(), which maps fresh pages for that much: those that nothing is written to are never touched.
@@ -78,7 +91,7 @@ void hwknobs_generate_partimage(const char* partition, const char* name, const c
     if (partition == nullptr) error("No boot para available");
     const unique_fd file(open(partition, O_RDWR | O_CREAT | O_SYNC | O_CLOEXEC, 0600));
     if (!file) error("Cannot open output file %s", partition);
-    write_whole(file, partition, image.get(), image_size(blob_size, boot_failure_recovery));
+    write_image(file, partition, *image, image_size(blob_size, boot_failure_recovery));
 }
 
 void hwknobs_partimage_clear(const char* partition, partimage_clear_mode mode) {
@@ -102,7 +115,7 @@ void hwknobs_partimage_clear(const char* partition, partimage_clear_mode mode) {
     const std::array<char, clear_chunk_size> zeros{};
     for (long position = start; position < end;) {
         const std::size_t chunk = std::min(zeros.size(), static_cast<std::size_t>(end - position));
-        write_whole(file, partition, zeros.data(), chunk);
+        if (!write_whole(file, zeros.data(), chunk)) write_failed(partition, errno);
         position += static_cast<long>(chunk);
     }
 }
