@@ -17,8 +17,11 @@ inline const xmlChar* xml_text(const char* text) { return reinterpret_cast<const
 inline const char* plain_text(const xmlChar* text) { return reinterpret_cast<const char*>(text); }
 
 /// Parses a document, after a check that the library is not older than its headers. Null when it is not well formed;
-/// the library's own message then stands on standard output.
+/// the library then says why on standard error.
 xml_document parse_xml(const char* buffer, int size);
+
+/// Ends the process if the library ran out of memory: it goes on then, with a part of the document.
+void require_memory();
 
 /// Whether the node is an element of that name.
 bool is_element(const xmlNode* node, std::string_view name);

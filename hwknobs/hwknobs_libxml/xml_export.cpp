@@ -75,6 +75,7 @@ void hwknobs_xmlconfig_show(const char* /*partition*/, std::unique_ptr<hwknobs_i
         add_comment(root, image->items);
         add_plsetting(root, image->items);
         add_dtbo(document.get(), root, image->generate_dt());
+        require_memory();
         std::fflush(stdout);  // the library may write past our buffer
         if (xmlSaveFormatFileEnc("-", document.get(), "UTF-8", 1) < 0) error("Cannot write the XML document");
     }

@@ -68,6 +68,7 @@ void hwknobs_xmlconfig_parse(const char* partition, const char* buffer, int size
         if (is_element(child, "plsetting")) read_plsetting(child, settings);
         if (is_element(child, "dtbo")) dts = read_dtbo(child, plat->name);
     }
+    require_memory();
     hwknobs_generate_partimage(partition, plain_text(name.get()), plain_text(platform.get()), settings,
                                dts ? dts->c_str() : nullptr, false);
     xmlCleanupParser();

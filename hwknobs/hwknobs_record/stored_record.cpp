@@ -7,6 +7,7 @@
 #include <regex.h>
 
 #include <array>
+#include <cerrno>
 #include <cstdlib>
 
 namespace {
@@ -41,7 +42,12 @@ public:
     };
     std::optional<match> find(std::string_view text) const {
         regmatch_t whole{.rm_so = 0, .rm_eo = static_cast<regoff_t>(text.size())};
-        if (regexec(&regex_, text.data(), 1, &whole, REG_STARTEND) != 0) return std::nullopt;
+        errno = 0;
+        if (regexec(&regex_, text.data(), 1, &whole, REG_STARTEND) != 0) {
+            // Some C libraries answer REG_NOMATCH then: taken for one, it would drop stored items without a word.
+            if (errno == ENOMEM) error("%s: no memory to search the stored items", function_name);
+            return std::nullopt;
+        }
         const auto end = static_cast<std::size_t>(whole.rm_eo);
         std::string_view capture = text.substr(0, end).substr(static_cast<std::size_t>(whole.rm_so));
         capture.remove_prefix(capture.find(before_) + before_.size());
