@@ -59,6 +59,24 @@ Skip delete option" hwknobs setname -d kaslr_disable
     [[ ${lines[0]} == "Config set (platform px8314), #item=1" ]]
 }
 
+@test "an imported setting without overlay holds no items, and can be changed" {
+    hwknobs xmlconfig-set <<<"<hwknobs name='n' platform='px8314'><plsetting/></hwknobs>"
+    ends_in 0 "config set ok" hwknobs set -m -r
+    [[ $(bytes 0x22c 1) == 01 ]]
+    hwknobs xmlconfig-set <<<"<hwknobs name='n' platform='px8314'><plsetting/></hwknobs>"
+    run -0 hwknobs setname -m kaslr_disable
+    [[ ${lines[0]} == *"#item=1" ]]
+}
+
+@test "a second writer waits for the first" {
+    compiler slow <<<': >started; sleep 1; exec dtc "$@"'
+    hwknobs setname kaslr_disable &
+    until [[ -e $DEV/data/started ]]; do sleep 0.05; done
+    run -0 hwknobs --verbose --file=../../../dev/block/by-name/boot_para setname -m kmemleak_disable
+    wait $!
+    [[ $output == *"DEBUG: /dev/block/by-name/boot_para: another command is changing it, waiting"*"#item=2"* ]]
+}
+
 @test "every row without an argument at once, and long strings, come back whole" {
     local ids long
     long=$(printf 'x%.0s' {1..3900}) # to get past the 64 KiB that a pipe holds if nobody enlarges it

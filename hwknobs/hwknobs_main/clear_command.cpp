@@ -1,4 +1,5 @@
 #include "hwknobs_base/diagnostics.h"
+#include "hwknobs_img/partition_lock.h"
 #include "hwknobs_img/partition_writer.h"
 #include "hwknobs_main/commands.h"
 #include "hwknobs_main/options.h"
@@ -31,6 +32,8 @@ partimage_clear_mode parse_clear_command(int argc, char** argv) {
 }  // namespace
 
 int run_clear_command(const global_options& global, int argc, char** argv) {
-    hwknobs_partimage_clear(global.file, parse_clear_command(argc, argv));
+    const partimage_clear_mode mode = parse_clear_command(argc, argv);
+    const partition_lock lock(global.file);
+    hwknobs_partimage_clear(global.file, mode);
     return 0;
 }

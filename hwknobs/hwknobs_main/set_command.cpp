@@ -1,6 +1,7 @@
 // The set and setname commands.
 #include "hwknobs_base/diagnostics.h"
 #include "hwknobs_img/image.h"
+#include "hwknobs_img/partition_lock.h"
 #include "hwknobs_img/partition_writer.h"
 #include "hwknobs_main/commands.h"
 #include "hwknobs_main/item_words.h"
@@ -94,6 +95,7 @@ void parse_set_command(const global_options& global, int argc, char** argv, bool
     // Without items there is one thing to do: to change the recovery flag of what is stored.
     if (items.empty() && !(options.mode == set_mode::modify && options.recovery)) error("No item set by arguments");
 
+    const partition_lock lock(global.file);
     std::unique_ptr<hwknobs_image> image;
     if (options.mode != set_mode::replace) {
         image = change_stored(global, options.mode, items);

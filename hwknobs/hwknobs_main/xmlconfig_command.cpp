@@ -1,5 +1,6 @@
 // The commands that write a selection as XML and apply such a document.
 #include "hwknobs_base/diagnostics.h"
+#include "hwknobs_img/partition_lock.h"
 #include "hwknobs_libxml/xmlconfig.h"
 #include "hwknobs_main/commands.h"
 #include "hwknobs_main/item_words.h"
@@ -15,7 +16,7 @@ constexpr assertion_site import_site{"hwknobs/hwknobs_main",
                                      "void parse_xmlconfig_set_command(const char *, const int, char **)"};
 
 std::FILE* open_input(const char* path) {
-    std::FILE* const file = std::fopen(path, "r");
+    std::FILE* const file = std::fopen(path, "re");  // not for the compiler to inherit
     if (file == nullptr) error("Can't open input file %s, %d\n", path, errno);
     std::printf("Config generate (%s)\n", path);
     return file;
@@ -38,6 +39,7 @@ void parse_xmlconfig_set_command(const char* partition, int argc, char** argv) {
     if (from_stdin) std::puts("Config generate (stdin)");
     std::FILE* const infp = from_stdin ? stdin : open_input(argv[1]);
     const std::vector<char> data = read_all(infp);
+    const partition_lock lock(partition);
     hwknobs_xmlconfig_parse(partition, data.data(), static_cast<int>(data.size()));
     if (!from_stdin) check_invariant(std::fclose(infp) != EOF, "fclose(infp) != EOF", import_site, 543);
     std::puts("config generate ok");
