@@ -1,6 +1,6 @@
 #!/usr/bin/env bats
 # What "cmake --install" puts in place.
-bats_require_minimum_version 1.5.0
+load device
 
 setup_file() {
     export PREFIX=$BATS_FILE_TMPDIR/prefix
@@ -22,4 +22,14 @@ setup_file() {
         [[ $text =~ (^|[^a-z-])"$word"($|[^a-z-]) ]] || { echo "not in the manual: $word"; return 1; }
     done < <(sed -nE 's/^usage hwknobs( \[[^]]*\])* ([a-z-]+).*/\2/p' "$usage"
         grep -oE '(^|[[[:space:]])--?[a-z][a-z-]*' "$usage" | tr -d '[ \t' | grep -vx -e --option)
+}
+
+@test "the examples: as the tool makes them, and they boot" {
+    local examples=$PREFIX/share/doc/hwknobs/examples example
+    device run sh -c "$(sed -n '/^They were made/,$s/^    //p' "$examples/README.md")"
+    for example in "$examples"/*.xml; do
+        diff "$example" "$DEV/data/${example##*/}"
+        ends_in 0 "config generate ok" hwknobs xmlconfig-set "${example##*/}"
+        device reboot
+    done
 }
