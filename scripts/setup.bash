@@ -2,7 +2,7 @@
 # shellcheck shell=bash disable=SC2034 # used by those who source this
 
 build_packages=(g++ cmake ninja-build libxml2-dev libfmt-dev nlohmann-json3-dev)
-device_packages=(bubblewrap device-tree-compiler)
+device_packages=(bubblewrap device-tree-compiler proot)
 test_packages=(bats libgtest-dev libgmock-dev strace shellcheck clang clang-format clang-tidy man-db mandoc zsh fish)
 page_test_packages=(chromium chromium-driver python3-selenium)
 

@@ -11,6 +11,8 @@ setup() { "$device_script" create "$DEV" --plat-code 8314; }
 device() { "$device_script" "$1" "$DEV" "${@:2}"; }
 hwknobs() { device run hwknobs "$@"; }
 
+needs_strace() { if [[ $(<"$DEV/.way") == proot* ]]; then skip "strace does not work under proot"; fi; }
+
 # expect STATUS OUTPUT COMMAND...: runs the command, which gives exactly this (a final newline aside).
 expect() {
     run "${@:3}"

@@ -4,6 +4,7 @@ load device
 
 # Of the calls of one name a path filter and a number pick out the one that is to fail.
 @test "a failing call ends in its message" {
+    needs_strace
     hwknobs setname kaslr_disable
     cp "$DEV/boot_para" "$DEV/good"
     local partition=/dev/block/by-name/boot_para command filter inject said
@@ -17,6 +18,7 @@ load device
 }
 
 @test "what is written is written through" {
+    needs_strace
     device run env ASAN_OPTIONS=detect_leaks=0 strace -o log -P /dev/block/by-name/boot_para hwknobs setname kaslr_disable
     [[ $(grep -c 'O_RDWR.*O_SYNC' "$DEV/data/log") == 2 ]]
 }
