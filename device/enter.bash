@@ -41,7 +41,7 @@ find_way() {
 # Mount points for proot: a path that its root lacks would be missing from the folder that holds it.
 make_proot_root() {
     local root=$1 node
-    mkdir -p -- "$root"/{usr,etc,proc,tmp,data/local/tmp,system/bin,dev/pts,dev/shm,dev/block/by-name}
+    mkdir -p -- "$root"/{usr,etc,proc,tmp,data/local/tmp,system/bin,system/etc,dev/pts,dev/shm,dev/block/by-name}
     ln -s usr/bin usr/sbin usr/lib usr/lib64 "$root/"
     for node in "${proot_nodes[@]}" block/by-name/boot_para; do : >"$root/dev/$node"; done
     ln -s /proc/self/fd "$root/dev/fd"
@@ -53,14 +53,14 @@ proot_nodes=(null zero full random urandom tty ptmx)
 
 # enter DIR COMMAND...: runs the command, and exits with its status. Without a fork where proot is not needed.
 enter() {
-    local dev=$1 way procfs name variables=(PATH=/system/bin:/usr/bin:/bin)
+    local dev=$1 way procfs name variables=(PATH=/system/bin:/usr/bin:/bin ENV=/system/etc/shrc)
     shift
     [[ -f $binary ]] || die "no hwknobs binary at $binary (build it, or set HWKNOBS)"
     if [[ ! -e $dev/.way ]]; then find_way "$dev"; fi
     read -r way procfs <"$dev/.way"
     procfs=${DEVICE_PROCFS:-$procfs}
     if [[ ${DTCBIN-} != unset ]]; then variables+=("DTCBIN=${DTCBIN-dtc}"); fi
-    for name in ASAN_OPTIONS UBSAN_OPTIONS LSAN_OPTIONS PS1 TERM TZ; do
+    for name in ASAN_OPTIONS UBSAN_OPTIONS LSAN_OPTIONS TERM TZ; do
         if [[ -v $name ]]; then variables+=("$name=${!name}"); fi
     done
     if [[ $way == proot ]]; then enter_proot "$@"; else enter_namespaces "$@"; fi
@@ -79,6 +79,7 @@ enter_namespaces() {
         --dir /etc --ro-bind-try /etc/ld.so.cache /etc/ld.so.cache
         --ro-bind-try /etc/localtime /etc/localtime
         --dir /system/bin --ro-bind "$binary" /system/bin/hwknobs
+        --dir /system/etc --ro-bind "$here/shrc.sh" /system/etc/shrc
         --ro-bind "$dev/proc" /proc
         --dev /dev --dir /dev/block/by-name
         --perms 1777 --tmpfs /tmp
@@ -106,6 +107,7 @@ enter_proot() {
         -b /usr
         -b /etc/ld.so.cache -b /etc/localtime
         -b "$binary:/system/bin/hwknobs"
+        -b "$here/shrc.sh:/system/etc/shrc"
         -b "$dev/data:/data/local/tmp"
         -b /dev/pts -b /dev/shm
     )

@@ -25,7 +25,9 @@ within() {
         expect 4 '' within "$way" "$device_script" run "$DEV" sh -c 'sleep 0.2 >/dev/null 2>&1 & exit 4'
         run -137 within "$way" "$device_script" run "$DEV" sh -c 'kill -KILL $$'
         within "$way" "$device_script" run "$DEV" hwknobs setname kaslr_disable
-        within "$way" "$device_script" reboot "$DEV"
+        run within "$way" "$device_script" shell "$DEV" <<<'reboot --status ffff'
+        [[ $status == 0 && $output == *"boot: setting 'default' for px8314 applied, 5 properties"* ]]
+        expect 1 'hwknobs boot status = 0xffff' within "$way" "$device_script" run "$DEV" hwknobs result
         run -0 within "$way" "$device_script" run "$DEV" hwknobs status
         [[ $output == *"boot recovery false"* ]]
     done
