@@ -1,9 +1,10 @@
 # Each test has a virtual device of its own, in the test's temporary folder.
 bats_require_minimum_version 1.5.0
 
-device_script=$BATS_TEST_DIRNAME/../device/device
+tests=${BASH_SOURCE[0]%/*}
+device_script=$tests/../device/device
 # shellcheck disable=SC2034 # tables of cases and expected outputs, for the tests
-data=$BATS_TEST_DIRNAME/data
+data=$tests/data
 DEV=$BATS_TEST_TMPDIR/device
 
 setup() { "$device_script" create "$DEV" --plat-code 8314; }

@@ -26,7 +26,7 @@ constexpr bool names_are_platform_names() {
     return true;
 }
 
-static_assert(std::size(platforms) == 24, "a platform was lost, or added without a thought of this number");
+static_assert(std::size(platforms) == promised_platforms, "platforms came or went: change the number in platforms.h");
 static_assert(identities_are_distinct(), "two platforms share a name or a hardware code");
 static_assert(names_are_platform_names(), "a platform's name is px and four digits");
 

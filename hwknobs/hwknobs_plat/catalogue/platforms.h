@@ -36,6 +36,10 @@
     platform(px8314, 0x8314)
 // clang-format on
 
+/// How many platforms the tool promises, and rows in all their tables together.
+inline constexpr std::size_t promised_platforms = 24;
+inline constexpr std::size_t promised_rows = 4923;
+
 #define HWKNOBS_DECLARE_PLATFORM(name, code) extern const hwknobs_plat name;
 HWKNOBS_PLATFORMS(HWKNOBS_DECLARE_PLATFORM)
 #undef HWKNOBS_DECLARE_PLATFORM

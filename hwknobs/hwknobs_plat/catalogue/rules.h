@@ -9,6 +9,7 @@
 #include <array>
 #include <span>
 #include <string_view>
+#include <utility>
 
 namespace catalogue {
 
@@ -38,7 +39,6 @@ enum class rule {
     plenv_value_is_read_back,
     fragment_has_no_line_of_an_item,
     fragment_fits_into_cdata,
-    end_row_is_last,
     plenv_of_all_rows_fits_the_block,
 };
 
@@ -79,19 +79,31 @@ constexpr template_facts inspect_template(std::string_view text) {
     return facts;
 }
 
-constexpr rule check_description(std::string_view desc) {
-    if (desc.empty()) return rule::row_has_a_description;
-    if (desc.size() > 72) return rule::desc_fits_72_columns;
-    for (const char c : desc)
+// Texts are walked once each, by pointer: the compiler takes every step of it for every row of every table.
+constexpr bool starts_with(const char* text, std::string_view part) {
+    for (const char c : part)
+        if (*text++ != c) return false;
+    return true;
+}
+
+constexpr bool starts_with_index(const char* text) {
+    if (*text++ != '(') return false;
+    while (is_digit(*text)) ++text;
+    return *text == ')';
+}
+
+constexpr rule check_description(const char* desc) {
+    if (desc == nullptr || *desc == '\0') return rule::row_has_a_description;
+    const char* at = desc;
+    for (; *at != '\0'; ++at) {
+        const char c = *at;
         if (c < ' ' || c > '~' || c == '"' || c == '\\') return rule::desc_holds_plain_text_only;
-    if (contains(desc, "--")) return rule::desc_holds_plain_text_only;
-    if (contains(desc, "[arg=") || contains(desc, "[str=")) return rule::desc_reads_like_no_argument_or_index;
-    for (std::size_t open = desc.find('('); open != std::string_view::npos; open = desc.find('(', open + 1)) {
-        std::size_t end = open + 1;
-        while (end < desc.size() && is_digit(desc[end])) ++end;
-        if (end < desc.size() && desc[end] == ')') return rule::desc_reads_like_no_argument_or_index;
+        if (c == '-' && at[1] == '-') return rule::desc_holds_plain_text_only;
+        if (c == '(' && starts_with_index(at)) return rule::desc_reads_like_no_argument_or_index;
+        if (c == '[' && (starts_with(at, "[arg=") || starts_with(at, "[str=")))
+            return rule::desc_reads_like_no_argument_or_index;
     }
-    return rule::none;
+    return at - desc > 72 ? rule::desc_fits_72_columns : rule::none;
 }
 
 // The largest size of a rendered value: a number has 10 digits, or 8 in hexadecimal. A free string counts as empty:
@@ -148,7 +160,11 @@ constexpr rule check_free_strings(std::string_view fragment) {
     return ends_bare ? rule::blank_follows_bare_string_conversion : rule::none;
 }
 
-constexpr bool takes_nothing(std::string_view text) {
+constexpr bool takes_nothing(const char* text) {
+    if (text == nullptr) return true;
+    const char* at = text;
+    while (*at != '\0' && *at != '%') ++at;
+    if (*at == '\0') return true;
     const template_check check = inspect_template(text).check;
     return check.fault == template_fault::none && check.kind == config_arg_kind::none;
 }
@@ -157,9 +173,8 @@ constexpr rule check_templates(const hwknobs_config& row) {
     const char* const value = row.pl_setting.value;
     const char* const fragment = row.dt_fragment;
     if (!row.takes_argument())
-        return takes_nothing(text_of(value)) && takes_nothing(text_of(fragment))
-                   ? rule::none
-                   : rule::row_without_argument_has_no_conversion;
+        return takes_nothing(value) && takes_nothing(fragment) ? rule::none
+                                                               : rule::row_without_argument_has_no_conversion;
     if ((value != nullptr) == (fragment != nullptr)) return rule::argument_row_has_exactly_one_template;
     const std::string_view text = value != nullptr ? value : fragment;
     const template_facts facts = inspect_template(text);
@@ -178,9 +193,11 @@ constexpr rule first_broken(std::initializer_list<rule> rules) {
 
 constexpr rule check_setting(const hwknobs_config& row) {
     if (row.pl_setting.key == nullptr && row.dt_fragment == nullptr) return rule::row_sets_something;
-    const std::string_view fragment = text_of(row.dt_fragment);
-    if (contains(fragment, "item")) return rule::fragment_has_no_line_of_an_item;
-    if (contains(fragment, "]]>")) return rule::fragment_fits_into_cdata;
+    if (row.dt_fragment == nullptr) return rule::none;
+    for (const char* at = row.dt_fragment; *at != '\0'; ++at) {
+        if (*at == 'i' && starts_with(at, "item")) return rule::fragment_has_no_line_of_an_item;
+        if (*at == ']' && starts_with(at, "]]>")) return rule::fragment_fits_into_cdata;
+    }
     return rule::none;
 }
 
@@ -204,61 +221,60 @@ constexpr bool is_the_exception(const hwknobs_config& row) {
 constexpr rule check_row(const hwknobs_config& row) {
     if (is_the_exception(row)) return rule::none;
     return first_broken(
-        {check_description(text_of(row.desc)), check_setting(row), check_templates(row), check_plenv(row.pl_setting)});
+        {check_description(row.desc), check_setting(row), check_templates(row), check_plenv(row.pl_setting)});
 }
 
 constexpr verdict check_version_0(std::span<const hwknobs_config> rows) {
-    for (std::size_t i = 0; i + 1 < rows.size(); ++i)
+    for (std::size_t i = 0; i < rows.size(); ++i)
         if (const rule broken = check_row(rows[i]); broken != rule::none) return {static_cast<int>(i), broken};
-    const bool ended = !rows.empty() && rows.back().desc == nullptr;
-    return {static_cast<int>(rows.size()) - 1, ended ? rule::none : rule::end_row_is_last};
+    return {};
 }
 
-// Each key once, with its longest value: the most that any selection can take.
-constexpr std::size_t plenv_size_of_all(std::span<const hwknobs_config> rows) {
-    std::array<std::string_view, 1024> keys{};
-    std::array<std::size_t, 1024> sizes{};
-    std::size_t count = 0;
-    for (const hwknobs_config& row : rows) {
-        if (row.pl_setting.key == nullptr) continue;
-        const std::string_view key = row.pl_setting.key;
-        std::size_t i = 0;
-        while (i < count && keys[i] != key) ++i;
-        if (i == count) keys[count++] = key;
-        const std::size_t size = plenv_entry_size(key.size(), longest_value(row.pl_setting.value));
-        if (size > sizes[i]) sizes[i] = size;
-    }
-    std::size_t total = 0;
-    for (std::size_t i = 0; i < count; ++i) total += sizes[i];
-    return total;
-}
-
-// The names met so far, in a hash table: pairwise comparison exceeds the compilers' limit of constant evaluation.
-class name_set {
+// The texts met so far, in a hash table: pairwise comparison exceeds the compilers' limit of constant evaluation.
+template <class Value>
+class text_map {
 public:
-    constexpr bool insert(std::string_view name) {
+    /// The value of the text, and whether the text is new; its value is then an empty one.
+    constexpr std::pair<Value&, bool> operator[](std::string_view text) {
         std::size_t slot = 0;
-        for (const char c : name) slot = slot * 31 + static_cast<unsigned char>(c);
-        for (slot %= slots_.size(); !slots_[slot].empty(); slot = (slot + 1) % slots_.size())
-            if (slots_[slot] == name) return false;
-        slots_[slot] = name;
-        return true;
+        for (const char c : text) slot = slot * 31 + static_cast<unsigned char>(c);
+        for (slot %= texts_.size(); !texts_[slot].empty(); slot = (slot + 1) % texts_.size())
+            if (texts_[slot] == text) return {values_[slot], false};
+        texts_[slot] = text;
+        return {values_[slot], true};
     }
 
 private:
-    std::array<std::string_view, 2048> slots_{};
+    std::array<std::string_view, 1024> texts_{};
+    std::array<Value, 1024> values_{};
 };
+
+// Each key once, with its longest value: the most that any selection can take.
+constexpr std::size_t plenv_size_of_all(std::span<const hwknobs_config> rows) {
+    text_map<std::size_t> sizes;
+    std::size_t total = 0;
+    for (const hwknobs_config& row : rows) {
+        if (row.pl_setting.key == nullptr) continue;
+        const std::string_view key = row.pl_setting.key;
+        const std::size_t size = plenv_entry_size(key.size(), longest_value(row.pl_setting.value));
+        std::size_t& known = sizes[key].first;
+        if (size <= known) continue;
+        total += size - known;
+        known = size;
+    }
+    return total;
+}
 
 constexpr verdict check_version_2(std::span<const hwknobs_config> rows) {
     std::array<bool, 1024> seen_ids{};
-    name_set seen_names;
+    text_map<bool> seen_names;
     for (std::size_t i = 0; i < rows.size(); ++i) {
         const auto at = static_cast<int>(i);
         if (const rule broken = first_broken({check_row(rows[i]), check_identity(rows[i])}); broken != rule::none)
             return {at, broken};
         if (seen_ids[rows[i].id]) return {at, rule::id_is_unique};
         seen_ids[rows[i].id] = true;
-        if (!seen_names.insert(rows[i].name)) return {at, rule::name_is_unique};
+        if (!seen_names[rows[i].name].second) return {at, rule::name_is_unique};
     }
     if (plenv_size_of_all(rows) > plenv_capacity)
         return {static_cast<int>(rows.size()) - 1, rule::plenv_of_all_rows_fits_the_block};

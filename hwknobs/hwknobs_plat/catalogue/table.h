@@ -1,87 +1,68 @@
-// How a platform's table is written. A table is an array of rows, each made by one of these:
-//
-//     dt(id, group, name, description, fragment)            a device-tree overlay fragment
-//     env(id, group, name, description, key, value)         a bootloader setting
-//     both(id, group, name, description, key, value, fragment)
-//     dt_arg(...), env_arg(...)                             the same with an argument: a conversion in the last text
-//
-// In tables of version 0 a row has no id, group and name, and the last row is end_of_table. version_0<rows>() and
-// version_2<rows>() make the platform of it, and do not compile when a row breaks a rule.
+// How a platform's table is made of knobs. It is written as an array of rows, an id and a knob each; a table of
+// version 0, whose rows have no id, as an array of knobs. version_0<rows>() and version_2<rows>() make the platform of
+// it, and do not compile when a row breaks a rule.
 #pragma once
 
+#include "hwknobs_plat/catalogue/knob.h"
 #include "hwknobs_plat/catalogue/platforms.h"
 #include "hwknobs_plat/catalogue/rules.h"
 
+#include <array>
 #include <iterator>
 
 namespace catalogue {
 
-using enum hwknobs_group;
-
-struct row_text {
+struct row {
     std::uint32_t id = 0;
-    hwknobs_group group{};
-    const char* name = nullptr;
-    const char* desc = nullptr;
+    knob what;
+
+    constexpr row(std::uint32_t row_id, const knob& row_knob) : id(row_id), what(row_knob) {}
+    constexpr row(const knob& row_knob) : what(row_knob) {}  // NOLINT(google-explicit-constructor)
 };
 
-constexpr hwknobs_config make_row(const row_text& text, bool takes_argument, hwknobs_config::plenv_pair pl_setting,
-                                  const char* dt_fragment) {
-    return {.desc = text.desc,
-            .arg_type = takes_argument ? 1U : 0U,
-            .pl_setting = pl_setting,
-            .dt_fragment = dt_fragment,
-            .id = text.id,
-            .group = text.group,
-            .name = text.name};
+constexpr hwknobs_config make_config(const row& row, bool identified) {
+    const auto& [group, name, desc, sets] = row.what;
+    return {.desc = desc,
+            .arg_type = sets.takes_argument ? 1U : 0U,
+            .pl_setting = sets.pl_setting,
+            .dt_fragment = sets.dt_fragment,
+            .id = row.id,
+            .group = identified ? group : hwknobs_group{},
+            .name = identified ? name : nullptr};
 }
 
-// Rows of version 2.
-constexpr hwknobs_config dt(std::uint32_t id, hwknobs_group group, const char* name, const char* desc,
-                            const char* fragment) {
-    return make_row({id, group, name, desc}, false, {}, fragment);
+// The rows as the tool knows them. Behind those of version 0 stands an empty one.
+template <const auto& Rows, std::uint32_t Version>
+consteval auto make_configs() {
+    constexpr bool has_ids = Version == version_with_ids;
+    std::array<hwknobs_config, std::size(Rows) + (has_ids ? 0 : 1)> configs{};
+    for (std::size_t i = 0; i < std::size(Rows); ++i) configs[i] = make_config(Rows[i], has_ids || Rows[i].id != 0);
+    return configs;
 }
-constexpr hwknobs_config dt_arg(std::uint32_t id, hwknobs_group group, const char* name, const char* desc,
-                                const char* fragment) {
-    return make_row({id, group, name, desc}, true, {}, fragment);
-}
-constexpr hwknobs_config env(std::uint32_t id, hwknobs_group group, const char* name, const char* desc, const char* key,
-                             const char* value) {
-    return make_row({id, group, name, desc}, false, {key, value}, nullptr);
-}
-constexpr hwknobs_config env_arg(std::uint32_t id, hwknobs_group group, const char* name, const char* desc,
-                                 const char* key, const char* value) {
-    return make_row({id, group, name, desc}, true, {key, value}, nullptr);
-}
-constexpr hwknobs_config both(std::uint32_t id, hwknobs_group group, const char* name, const char* desc,
-                              const char* key, const char* value, const char* fragment) {
-    return make_row({id, group, name, desc}, false, {key, value}, fragment);
-}
+template <const auto& Rows, std::uint32_t Version>
+inline constexpr auto configs_of = make_configs<Rows, Version>();
 
-// Rows of version 0.
-constexpr hwknobs_config dt(const char* desc, const char* fragment) {
-    return make_row({.desc = desc}, false, {}, fragment);
-}
-constexpr hwknobs_config dt_arg(const char* desc, const char* fragment) {
-    return make_row({.desc = desc}, true, {}, fragment);
-}
-constexpr hwknobs_config env(const char* desc, const char* key, const char* value) {
-    return make_row({.desc = desc}, false, {key, value}, nullptr);
-}
-constexpr hwknobs_config env_arg(const char* desc, const char* key, const char* value) {
-    return make_row({.desc = desc}, true, {key, value}, nullptr);
-}
-constexpr hwknobs_config both(const char* desc, const char* key, const char* value, const char* fragment) {
-    return make_row({.desc = desc}, false, {key, value}, fragment);
-}
-inline constexpr hwknobs_config end_of_table{};
-
-// The row and the rule stand in the compiler's message: "row_keeps_rules<17, catalogue::rule::desc_fits_72_columns>".
-template <int Row, rule Broken>
+// Row, knob and rule stand in the compiler's message:
+// "row_keeps_rules<17, word<17>{"kmemleak_disable"}, catalogue::rule::desc_fits_72_columns>".
+template <int Row, word Knob, rule Broken>
 struct row_keeps_rules {
-    static_assert(Broken == rule::none, "a row of this table breaks a rule: see the two template arguments");
+    static_assert(Broken == rule::none, "a row of this table breaks a rule: see the template arguments");
     static constexpr bool value = true;
 };
+
+template <const auto& Rows, int Row>
+consteval auto knob_name() {
+    constexpr std::string_view name = text_of(Rows[Row].what.name);
+    char chars[name.size() + 1]{};
+    name.copy(chars, name.size());
+    return word(chars);
+}
+
+template <const auto& Rows, verdict Found>
+consteval bool keeps_rules() {
+    if constexpr (Found.broken == rule::none) return true;
+    else return row_keeps_rules<Found.row, knob_name<Rows, Found.row>(), Found.broken>::value;
+}
 
 consteval std::uint64_t hw_code_of(std::string_view name) {
     for (const platform_identity& identity : platform_identities)
@@ -91,16 +72,16 @@ consteval std::uint64_t hw_code_of(std::string_view name) {
 
 template <const auto& Rows>
 consteval hwknobs_plat version_0(const char* name) {
-    constexpr verdict found = check_version_0(Rows);
-    static_assert(row_keeps_rules<found.row, found.broken>::value);
-    return {hw_code_of(name), name, Rows, 0, 0};
+    constexpr auto& configs = configs_of<Rows, 0>;
+    static_assert(keeps_rules<Rows, check_version_0(std::span(configs).first(std::size(Rows)))>());
+    return {hw_code_of(name), name, configs.data(), 0, 0};
 }
 
 template <const auto& Rows>
 consteval hwknobs_plat version_2(const char* name) {
-    constexpr verdict found = check_version_2(Rows);
-    static_assert(row_keeps_rules<found.row, found.broken>::value);
-    return {hw_code_of(name), name, Rows, version_with_ids, std::size(Rows)};
+    constexpr auto& configs = configs_of<Rows, version_with_ids>;
+    static_assert(keeps_rules<Rows, check_version_2(configs)>());
+    return {hw_code_of(name), name, configs.data(), version_with_ids, std::size(Rows)};
 }
 
 }  // namespace catalogue

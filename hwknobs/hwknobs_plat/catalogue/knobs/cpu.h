@@ -1,0 +1,201 @@
+// Cores, operating points, idle states, scheduler, errata and mitigations, throttling.
+#pragma once
+
+#include "hwknobs_plat/catalogue/knob.h"
+
+namespace catalogue {
+
+inline constexpr knob boot_core_only = {
+    CPU, "boot_core_only", "Start the boot core only", both("maxcpus", "1", "&chosen { max-cpus = <1>; };")};
+
+template <word AllCores>
+inline constexpr knob cpu_start_mask_set = {
+    CPU, "cpu_start_mask_set", text<"Set mask of cores to start, bit 0 is the boot core (0x1-{})", AllCores>,
+    dt_arg("&chosen { cpu-start-mask = <0x%x>; };")};
+
+inline constexpr knob cpu3_off = {CPU, "cpu3_off", "Leave CPU3 off", dt(R"(&cpu3 { status = "disabled"; };)")};
+
+template <unsigned Cpu, word Core>
+inline constexpr knob big_core_off = {
+    CPU, text<"cpu{}_off", Cpu>, text<"Leave CPU{} off (Cortex-{}, big cluster)", Cpu, Core>,
+    dt(text<R"(&cpu{} { status = "disabled"; };)", Cpu>)};
+
+template <unsigned Cluster>
+inline constexpr knob big_off = {
+    CPU, "big_off", "Leave whole big cluster off", dt(text<R"(&cluster{} { status = "disabled"; };)", Cluster>)};
+
+inline constexpr knob cpu_hotplug_disable = {
+    CPU, "cpu_hotplug_disable", "Disable automatic core hotplug, keep all cores online",
+    dt(R"(&cpu_hotplug { status = "disabled"; };)")};
+inline constexpr knob core_ctl_disable = {
+    CPU, "core_ctl_disable", "Disable core control, never isolate lightly loaded cores",
+    dt(R"(&core_ctl { status = "disabled"; };)")};
+inline constexpr knob little_boot_core_only = {
+    CPU, "little_boot_core_only", "Leave all little cores but the boot core off", dt("&cluster0 { boot-core-only; };")};
+inline constexpr knob mid_off = {
+    CPU, "mid_off", "Leave whole mid cluster off", dt(R"(&cluster1 { status = "disabled"; };)")};
+inline constexpr knob cpufreq_disable = {
+    CPU, "cpufreq_disable", "Disable CPU frequency scaling, stay at the boot clock", dt("&chosen { cpufreq-off; };")};
+
+template <unsigned Mhz>
+inline constexpr knob cpu_fix = {
+    CPU, text<"cpu_fix_{}mhz", Mhz>, text<"Fix CPU cluster at {} MHz", Mhz>,
+    dt(text<"&cpufreq_cpu { fixed-frequency-mhz = <{}>; };", Mhz>)};
+
+template <unsigned MinMhz, unsigned MaxMhz>
+inline constexpr knob cpu_cap_set = {
+    CPU, "cpu_cap_set", text<"Cap CPU cluster at a frequency in MHz ({}-{})", MinMhz, MaxMhz>,
+    dt_arg("&cpufreq_cpu { max-frequency-mhz = <%u>; };")};
+
+inline constexpr knob cpu_fix_max = {
+    CPU, "cpu_fix_max", "Fix all clusters at their highest operating point", dt(R"(&cpufreq { fixed-opp = "max"; };)")};
+inline constexpr knob cpu_fix_min = {
+    CPU, "cpu_fix_min", "Fix all clusters at their lowest operating point", dt(R"(&cpufreq { fixed-opp = "min"; };)")};
+
+template <word Cluster, unsigned Mhz>
+inline constexpr knob cluster_fix = {
+    CPU, text<"{}_fix_{}mhz", Cluster, Mhz>, text<"Fix {} cluster at {} MHz", Cluster, Mhz>,
+    dt(text<"&cpufreq_{} { fixed-frequency-mhz = <{}>; };", Cluster, Mhz>)};
+
+template <unsigned MinMhz, unsigned MaxMhz>
+inline constexpr knob big_cap_set = {
+    CPU, "big_cap_set", text<"Cap big cluster at a frequency in MHz ({}-{})", MinMhz, MaxMhz>,
+    dt_arg("&cpufreq_big { max-frequency-mhz = <%u>; };")};
+
+inline constexpr knob big_turbo_disable = {
+    CPU, "big_turbo_disable", "Disable turbo operating points of big cluster", dt("&cpufreq_big { turbo-disable; };")};
+inline constexpr knob boot_opp_max = {
+    CPU, "boot_opp_max", "Run the boot core at its highest clock in the boot loader", env("bootopp", "max")};
+inline constexpr knob interactive_timer_10ms = {
+    CPU, "interactive_timer_10ms", "Set interactive timer_rate to 10 ms",
+    dt("&chosen { interactive-timer-rate-us = <10000>; };")};
+inline constexpr knob hmp_disable = {
+    CPU, "hmp_disable", "Disable HMP task migration between little and big cores", dt("&chosen { hmp-disable; };")};
+inline constexpr knob cpufreq_sw_dvfs = {
+    CPU, "cpufreq_sw_dvfs", "Let the kernel set CPU clocks instead of the DVFS firmware",
+    dt("&cpufreq { software-dvfs; };")};
+inline constexpr knob iowait_boost_disable = {
+    CPU, "iowait_boost_disable", "Disable schedutil boost after I/O wait",
+    dt("&chosen { schedutil-no-iowait-boost; };")};
+inline constexpr knob eas_disable = {
+    CPU, "eas_disable", "Disable energy-aware scheduling", dt("&chosen { sched-energy-aware = <0>; };")};
+inline constexpr knob walt_disable = {
+    CPU, "walt_disable", "Use PELT instead of WALT load tracking", dt("&chosen { sched-use-walt = <0>; };")};
+inline constexpr knob schedtune_disable = {
+    CPU, "schedtune_disable", "Ignore schedtune boost of task groups", dt("&chosen { schedtune-disable; };")};
+inline constexpr knob pelt_halflife_8ms = {
+    CPU, "pelt_halflife_8ms", "Shorten PELT half-life from 32 ms to 8 ms",
+    dt("&chosen { sched-pelt-multiplier = <4>; };")};
+inline constexpr knob uclamp_disable = {
+    CPU, "uclamp_disable", "Ignore utilization clamps of tasks and groups", dt("&chosen { sched-uclamp-disable; };")};
+inline constexpr knob misfit_disable = {
+    CPU, "misfit_disable", "Disable misfit migration of heavy tasks to bigger cores",
+    dt("&chosen { sched-no-misfit; };")};
+
+template <word Cpus>
+inline constexpr knob isolate_big = {
+    CPU, "isolate_big", "Keep normal tasks off the big cluster (isolcpus)",
+    dt(text<R"(&chosen { isolated-cpus = "{}"; };)", Cpus>)};
+
+inline constexpr knob sched_feature_set = {
+    CPU, "sched_feature_set", "Set one scheduler feature by name, prefix NO_ clears it",
+    dt_arg(R"(&chosen { sched-feature = "%s "; };)")};
+inline constexpr knob cpuidle_disable = {
+    CPU, "cpuidle_disable", "Use WFI only, disable deeper CPU idle states", dt("&chosen { cpuidle-off; };")};
+inline constexpr knob core_off_disable = {
+    CPU, "core_off_disable", "Disable core-off idle state", dt(R"(&cpu_sleep { status = "disabled"; };)")};
+inline constexpr knob cluster_off_disable = {
+    CPU, "cluster_off_disable", "Disable cluster-off idle state", dt(R"(&cluster_sleep { status = "disabled"; };)")};
+inline constexpr knob little_cluster_off_disable = {
+    CPU, "little_cluster_off_disable", "Disable cluster-off idle state of little cluster",
+    dt(R"(&cluster_sleep_little { status = "disabled"; };)")};
+inline constexpr knob mid_cluster_off_disable = {
+    CPU, "mid_cluster_off_disable", "Disable cluster-off idle state of mid cluster",
+    dt(R"(&cluster_sleep_mid { status = "disabled"; };)")};
+inline constexpr knob big_cluster_off_disable = {
+    CPU, "big_cluster_off_disable", "Disable cluster-off idle state of big cluster",
+    dt(R"(&cluster_sleep_big { status = "disabled"; };)")};
+inline constexpr knob cci_fix_max = {
+    CPU, "cci_fix_max", "Fix coherent interconnect clock at its maximum", dt(R"(&cci { fixed-opp = "max"; };)")};
+inline constexpr knob dsu_off_disable = {
+    CPU, "dsu_off_disable", "Keep DSU and L3 powered when all cores are idle",
+    dt(R"(&cluster_sleep { status = "disabled"; };)")};
+inline constexpr knob idle_governor_set = {
+    CPU, "idle_governor_set", "Select CPU idle governor, menu or teo",
+    dt_arg(R"(&chosen { cpuidle-governor = "%s[menu,teo]"; };)")};
+inline constexpr knob l3_fix_max = {
+    CPU, "l3_fix_max", "Fix L3 and DSU clock at its highest operating point", dt(R"(&dsu { fixed-opp = "max"; };)")};
+inline constexpr knob l3_powerdown_disable = {
+    CPU, "l3_powerdown_disable", "Keep all L3 ways powered, no partial power-down",
+    dt("&dsu { no-partial-power-down; };")};
+inline constexpr knob l3_half = {CPU, "l3_half", "Power up only half of the L3 ways", env("l3", "half")};
+inline constexpr knob mpam_disable = {
+    CPU, "mpam_disable", "Disable MPAM cache and bandwidth partitioning", dt(R"(&mpam { status = "disabled"; };)")};
+inline constexpr knob mpam_little_l3_portion_limit_half = {
+    CPU, "mpam_little_l3_portion_limit_half", "Limit little cluster to half of the L3 portions (MPAM)",
+    dt(R"(&dsu { mpam-little-portions = "half"; };)")};
+inline constexpr knob prefetch_disable = {
+    CPU, "prefetch_disable", "Disable hardware data prefetchers of all cores", env("cpupf", "off")};
+inline constexpr knob cpu_clock_gating_disable = {
+    CPU, "cpu_clock_gating_disable", "Disable dynamic clock gating of the CPU subsystem",
+    dt("&cpu_subsys { clock-gating-disable; };")};
+inline constexpr knob cache_ecc_log = {
+    CPU, "cache_ecc_log", "Log corrected ECC errors of the CPU caches", dt("&cpu_edac { log-corrected; };")};
+inline constexpr knob svs_disable = {
+    CPU, "svs_disable", "Disable adaptive voltage scaling of the CPU supplies",
+    both("avs", "off", R"(&svs { status = "disabled"; };)")};
+inline constexpr knob cpu_plus_25mv = {
+    CPU, "cpu_plus_25mv", "Raise CPU voltage by 25 mV at every operating point",
+    dt("&svs_cpu { voltage-offset-microvolt = <25000>; };")};
+inline constexpr knob cpu_voltage_offset = {
+    CPU, "cpu_voltage_offset", "Offset CPU voltage in uV (-50000 to 50000)",
+    dt_arg("&svs_cpu { voltage-offset-microvolt = <%d>; };")};
+inline constexpr knob big_plus_25mv = {
+    CPU, "big_plus_25mv", "Raise big cluster voltage by 25 mV at every operating point",
+    dt("&svs_big { voltage-offset-microvolt = <25000>; };")};
+inline constexpr knob big_voltage_offset = {
+    CPU, "big_voltage_offset", "Offset big cluster voltage in uV (-50000 to 50000)",
+    dt_arg("&svs_big { voltage-offset-microvolt = <%d>; };")};
+inline constexpr knob droop_disable = {
+    CPU, "droop_disable", "Disable clock stretching on big cluster voltage droop",
+    dt(R"(&droop_big { status = "disabled"; };)")};
+inline constexpr knob cpu_throttle_disable = {
+    CPU, "cpu_throttle_disable", "Disable thermal throttling of the CPUs",
+    dt(R"(&cpu_cooling { status = "disabled"; };)")};
+inline constexpr knob cpu_trip_set = {
+    CPU, "cpu_trip_set", "Set CPU throttling trip in millidegrees Celsius (60000-105000)",
+    dt_arg("&cpu_alert0 { temperature = <%d>; };")};
+
+template <word Cores, unsigned Number, word About>
+inline constexpr knob erratum_skip = {
+    CPU, text<"erratum_{}_skip", Number>, text<"Skip Cortex-{} erratum {} workaround ({})", Cores, Number, About>,
+    dt(text<"&chosen { skip-erratum-{}; };", Number>)};
+
+template <word Cores, unsigned Number, word About>
+inline constexpr knob firmware_erratum_skip = {
+    CPU, text<"erratum_{}_skip", Number>, text<"Skip Cortex-{} erratum {} workaround ({})", Cores, Number, About>,
+    env("noerr", text<"{}", Number>)};
+
+inline constexpr knob erratum_fw_skip = {
+    CPU, "erratum_fw_skip", "Skip one secure monitor erratum workaround by its number", env_arg("noerr", "%u")};
+inline constexpr knob mitigations_off = {
+    CPU, "mitigations_off", "Disable all CPU speculation mitigations", dt(R"(&chosen { mitigations = "off"; };)")};
+inline constexpr knob kpti_disable = {
+    CPU, "kpti_disable", "Disable kernel page table isolation (KPTI)", dt(R"(&chosen { kpti = "off"; };)")};
+inline constexpr knob el0_32bit_disable = {
+    CPU, "el0_32bit_disable", "Refuse 32-bit programs", dt("&chosen { no-32bit-el0; };")};
+inline constexpr knob el0_32bit_mismatch_allow = {
+    CPU, "el0_32bit_mismatch_allow", "Run 32-bit programs on the cores that can (mismatched EL0)",
+    dt("&chosen { allow-mismatched-32bit-el0; };")};
+inline constexpr knob ssbd_disable = {
+    CPU, "ssbd_disable", "Allow speculative store bypass everywhere (SSBD off)",
+    dt(R"(&chosen { ssbd = "force-off"; };)")};
+inline constexpr knob lse_disable = {
+    CPU, "lse_disable", "Use LL/SC loops instead of LSE atomic instructions", dt("&chosen { no-lse; };")};
+inline constexpr knob pmu_user_access = {
+    CPU, "pmu_user_access", "Let user space read the PMU counters", dt("&chosen { pmu-user-access; };")};
+inline constexpr knob amu_frequency_invariance_disable = {
+    CPU, "amu_frequency_invariance_disable", "Do not use AMU counters to scale load by frequency",
+    dt("&chosen { no-amu-fie; };")};
+
+}  // namespace catalogue

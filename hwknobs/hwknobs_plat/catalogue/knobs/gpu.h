@@ -1,0 +1,91 @@
+// Operating points, power policy, shader cores, memory protection, trace.
+#pragma once
+
+#include "hwknobs_plat/catalogue/knob.h"
+
+namespace catalogue {
+
+template <unsigned Mhz>
+inline constexpr knob gpu_fix = {
+    GPU, text<"gpu_fix_{}mhz", Mhz>, text<"Fix GPU at {} MHz", Mhz>,
+    dt(text<"&gpufreq { fixed-frequency-mhz = <{}>; };", Mhz>)};
+
+template <unsigned Mhz>
+inline constexpr knob gpu_max = {
+    GPU, text<"gpu_max_{}mhz", Mhz>, text<"Cap GPU frequency at {} MHz", Mhz>,
+    dt(text<"&gpufreq { max-frequency-mhz = <{}>; };", Mhz>)};
+
+template <unsigned Mhz>
+inline constexpr knob gpu_min = {
+    GPU, text<"gpu_min_{}mhz", Mhz>, text<"Keep GPU frequency at {} MHz or higher", Mhz>,
+    dt(text<"&gpufreq { min-frequency-mhz = <{}>; };", Mhz>)};
+
+inline constexpr knob gpu_dvfs_disable = {
+    GPU, "gpu_dvfs_disable", "Disable GPU DVFS and keep the boot frequency", dt("&gpufreq { dvfs-disable; };")};
+inline constexpr knob gpu_plus_25mv = {
+    GPU, "gpu_plus_25mv", "Raise GPU voltage by 25 mV at every operating point",
+    dt("&gpufreq { voltage-offset-microvolt = <25000>; };")};
+inline constexpr knob gpu_dvfs_period_set = {
+    GPU, "gpu_dvfs_period_set", "Set GPU load sampling period for DVFS in ms (1-1000)",
+    dt_arg("&mali { dvfs-period-ms = <%u>; };")};
+inline constexpr knob gpu_throttle_disable = {
+    GPU, "gpu_throttle_disable", "Disable thermal throttling of the GPU",
+    dt("&gpufreq { thermal-throttle-disable; };")};
+inline constexpr knob gpu_voltage_offset = {
+    GPU, "gpu_voltage_offset", "Offset GPU voltage in uV (-50000 to 50000)",
+    dt_arg("&gpufreq { voltage-offset-microvolt = <%d>; };")};
+inline constexpr knob gpu_speed_bin_ignore = {
+    GPU, "gpu_speed_bin_ignore", "Ignore GPU speed bin fuses and use the default OPP table", env("gpu_bin", "off")};
+inline constexpr knob gpu_avs_disable = {
+    GPU, "gpu_avs_disable", "Ignore fused GPU voltages and use the safe voltage table", env("gpu_avs", "off")};
+inline constexpr knob gpu_disable = {
+    GPU, "gpu_disable", "Disable GPU and fall back to software rendering", dt(R"(&mali { status = "disabled"; };)")};
+inline constexpr knob gpu_power_on_from_boot = {
+    GPU, "gpu_power_on_from_boot", "Keep GPU power domain on from the boot loader onward",
+    both("gpu_pwr", "on", "&gpufreq { power-always-on; };")};
+inline constexpr knob gpu_policy_always_on = {
+    GPU, "gpu_policy_always_on", "Use always_on GPU power policy", dt(R"(&mali { power-policy = "always_on"; };)")};
+inline constexpr knob gpu_policy_coarse_demand = {
+    GPU, "gpu_policy_coarse_demand", "Use coarse_demand GPU power policy",
+    dt(R"(&mali { power-policy = "coarse_demand"; };)")};
+inline constexpr knob gpu_one_core = {
+    GPU, "gpu_one_core", "Run GPU with one shader core", dt("&mali { core-mask = <0x1>; };")};
+inline constexpr knob gpu_clock_gating_disable = {
+    GPU, "gpu_clock_gating_disable", "Disable GPU internal clock gating", dt("&mali { clock-gating-disable; };")};
+inline constexpr knob gpu_sleep_disable = {
+    GPU, "gpu_sleep_disable", "Disable GPU firmware sleep and always power off on idle",
+    dt("&mali { firmware-sleep-disable; };")};
+inline constexpr knob enable_gpu_acp = {
+    GPU, "enable_gpu_acp", "Enable GPU ACP", dt("&mali { system-coherency = <0>; };")};
+inline constexpr knob disable_gpu_coherency = {
+    GPU, "disable_gpu_coherency", "Disable GPU system coherency", dt("&mali { system-coherency = <31>; };")};
+inline constexpr knob gpu_soft_stop_disable = {
+    GPU, "gpu_soft_stop_disable", "Disable soft-stop of GPU jobs", dt("&mali { soft-stop-disable; };")};
+inline constexpr knob gpu_hard_stop_disable = {
+    GPU, "gpu_hard_stop_disable", "Disable hard-stop of GPU jobs", dt("&mali { hard-stop-disable; };")};
+inline constexpr knob gpu_serialize_jobs = {
+    GPU, "gpu_serialize_jobs", "Serialize GPU jobs over all job slots", dt(R"(&mali { serialize-jobs = "full"; };)")};
+inline constexpr knob gpu_csf_fw_timeout_set = {
+    GPU, "gpu_csf_fw_timeout_set", "Set GPU firmware response timeout in ms (100-60000)",
+    dt_arg("&mali { firmware-timeout-ms = <%u>; };")};
+inline constexpr knob gpu_csf_progress_disable = {
+    GPU, "gpu_csf_progress_disable", "Disable progress timeout of GPU command streams",
+    dt("&mali { progress-timeout = <0>; };")};
+inline constexpr knob gpu_csf_fw_core_dump = {
+    GPU, "gpu_csf_fw_core_dump", "Save GPU firmware core dump on firmware fault", dt("&mali { firmware-core-dump; };")};
+inline constexpr knob gpu_reset_dump = {
+    GPU, "gpu_reset_dump", "Dump GPU registers to kernel log before GPU reset", dt("&mali { reset-dump; };")};
+inline constexpr knob gpu_mmu_fault_panic = {
+    GPU, "gpu_mmu_fault_panic", "Panic on GPU MMU fault", dt("&mali { mmu-fault-panic; };")};
+inline constexpr knob gpu_irq_mask_set = {
+    GPU, "gpu_irq_mask_set", "Set GPU interrupt mask register (0x0-0xffffffff)",
+    dt_arg("&mali { gpu-irq-mask = <0x%x>; };")};
+inline constexpr knob gpu_job_trace = {
+    GPU, "gpu_job_trace", "Trace start and end of GPU jobs in ftrace", dt("&mali { job-trace-enable; };")};
+inline constexpr knob gpu_counters_enable = {
+    GPU, "gpu_counters_enable", "Allow GPU hardware counters for unprivileged processes",
+    dt("&mali { hwcnt-user-access; };")};
+inline constexpr knob gpu_afbc_disable = {
+    GPU, "gpu_afbc_disable", "Disable AFBC compression of GPU render targets", dt("&mali { afbc-disable; };")};
+
+}  // namespace catalogue

@@ -1,0 +1,197 @@
+// Kernel debugging, panic, watchdog, RAM dump, printk and console, storage.
+#pragma once
+
+#include "hwknobs_plat/catalogue/knob.h"
+
+namespace catalogue {
+
+inline constexpr knob kaslr_disable = {
+    KERNEL, "kaslr_disable", "Disable Linux kernel randomize-base", dt(R"(&chosen { kaslr-status="disabled"; };)")};
+inline constexpr knob kaslr_enable = {
+    KERNEL, "kaslr_enable", "Enable Linux kernel randomize-base", dt(R"(&chosen { kaslr-status="okay"; };)")};
+inline constexpr knob kmemleak_disable = {
+    KERNEL, "kmemleak_disable", "Disable Kmemleak", dt(R"(&chosen { kmemleak-status="disabled"; };)")};
+inline constexpr knob kmemleak_enable = {
+    KERNEL, "kmemleak_enable", "Enable Kmemleak", dt(R"(&chosen { kmemleak-status="okay"; };)")};
+inline constexpr knob kasan_hw_tags_enable = {
+    KERNEL, "kasan_hw_tags_enable", "Enable KASAN with MTE hardware tags",
+    dt(R"(&chosen { kasan-hw-tags-status = "okay"; };)")};
+inline constexpr knob kasan_mode_set_sync_async = {
+    KERNEL, "kasan_mode_set", "Set KASAN tag check mode (sync or async)",
+    dt_arg(R"(&chosen { kasan-mode = "%s[sync,async]"; };)")};
+inline constexpr knob kasan_mode_set = {
+    KERNEL, "kasan_mode_set", "Set KASAN tag check mode (sync, async or asymm)",
+    dt_arg(R"(&chosen { kasan-mode = "%s[sync,async,asymm]"; };)")};
+inline constexpr knob kfence_disable = {
+    KERNEL, "kfence_disable", "Disable KFENCE", dt(R"(&chosen { kfence-status = "disabled"; };)")};
+inline constexpr knob kfence_interval_set = {
+    KERNEL, "kfence_interval_set", "Set KFENCE sample interval in ms (0 for off)",
+    dt_arg("&chosen { kfence-sample-interval = <%u>; };")};
+inline constexpr knob slub_debug_enable = {
+    KERNEL, "slub_debug_enable", "Enable SLUB sanity checks, red zones and poisoning",
+    dt(R"(&chosen { slub-debug = "FZP"; };)")};
+inline constexpr knob page_owner_enable = {
+    KERNEL, "page_owner_enable", "Record the allocating call stack of every page",
+    dt(R"(&chosen { page-owner-status = "okay"; };)")};
+inline constexpr knob page_poison_enable = {
+    KERNEL, "page_poison_enable", "Poison free pages and verify them on allocation",
+    dt(R"(&chosen { page-poison-status = "okay"; };)")};
+inline constexpr knob debug_pagealloc_enable = {
+    KERNEL, "debug_pagealloc_enable", "Unmap free pages to trap use after free",
+    dt(R"(&chosen { debug-pagealloc-status = "okay"; };)")};
+inline constexpr knob init_on_alloc_disable = {
+    KERNEL, "init_on_alloc_disable", "Skip zeroing of memory on allocation",
+    dt(R"(&chosen { init-on-alloc-status = "disabled"; };)")};
+inline constexpr knob memtest_4_patterns = {
+    KERNEL, "memtest_4_patterns", "Test free memory with 4 patterns early at kernel boot",
+    dt("&chosen { memtest = <4>; };")};
+inline constexpr knob memory_failure_early_kill_enable = {
+    KERNEL, "memory_failure_early_kill_enable", "Kill all tasks mapping a page as soon as it is found bad",
+    dt("&chosen { memory-failure-early-kill; };")};
+inline constexpr knob lockdep_enable = {
+    KERNEL, "lockdep_enable", "Enable lock dependency proving", dt(R"(&chosen { prove-locking-status = "okay"; };)")};
+inline constexpr knob hung_task_timeout_set = {
+    KERNEL, "hung_task_timeout_set", "Set hung task timeout in seconds (0 for off)",
+    dt_arg("&chosen { hung-task-timeout-sec = <%u>; };")};
+inline constexpr knob hung_task_panic_enable = {
+    KERNEL, "hung_task_panic_enable", "Panic when a hung task is found", dt("&chosen { hung-task-panic = <1>; };")};
+inline constexpr knob softlockup_panic_enable = {
+    KERNEL, "softlockup_panic_enable", "Panic on soft lockup", dt("&chosen { softlockup-panic = <1>; };")};
+inline constexpr knob rcu_stall_panic_enable = {
+    KERNEL, "rcu_stall_panic_enable", "Panic on RCU CPU stall", dt("&chosen { panic-on-rcu-stall = <1>; };")};
+inline constexpr knob rcu_exp_stall_timeout_200ms = {
+    KERNEL, "rcu_exp_stall_timeout_200ms", "Set expedited RCU stall timeout to 200 ms",
+    dt("&chosen { rcu-exp-cpu-stall-timeout-ms = <200>; };")};
+inline constexpr knob watchdog_disable = {
+    KERNEL, "watchdog_disable", "Disable hardware watchdog in boot loader and kernel",
+    both("wdt_boot", "off", R"(&watchdog { status = "disabled"; };)")};
+inline constexpr knob watchdog_percpu_kick_enable = {
+    KERNEL, "watchdog_percpu_kick_enable", "Kick watchdog from every CPU to catch hard lockups",
+    dt("&watchdog { percpu-kick; };")};
+inline constexpr knob console_level_set = {
+    KERNEL, "console_level_set", "Set console log level (0-8)", dt_arg("&chosen { console-loglevel = <%u>; };")};
+inline constexpr knob uart_console_disable = {
+    KERNEL, "uart_console_disable", "Disable UART log in boot loader and kernel",
+    both("uart_log", "off", R"(&chosen { uart-console-status = "disabled"; };)")};
+inline constexpr knob uart_console_enable = {
+    KERNEL, "uart_console_enable", "Enable UART log in boot loader and kernel",
+    both("uart_log", "on", R"(&chosen { uart-console-status = "okay"; };)")};
+inline constexpr knob log_buf_8m = {
+    KERNEL, "log_buf_8m", "Set kernel log buffer to 8 MB", dt("&chosen { log-buf-len = <0x800000>; };")};
+inline constexpr knob hash_pointers_disable = {
+    KERNEL, "hash_pointers_disable", "Print plain kernel pointers instead of hashed ones",
+    dt("&chosen { no-hash-pointers; };")};
+inline constexpr knob dyndbg_set = {
+    KERNEL, "dyndbg_set", "Enable dynamic debug messages of the named modules",
+    dt_arg(R"(&chosen { dyndbg-modules = "%s "; };)")};
+inline constexpr knob initcall_debug_enable = {
+    KERNEL, "initcall_debug_enable", "Log duration and result of every initcall", dt("&chosen { initcall-debug; };")};
+inline constexpr knob deferred_probe_timeout_set = {
+    KERNEL, "deferred_probe_timeout_set", "Set deferred probe timeout in seconds (-1 no limit)",
+    dt_arg("&chosen { deferred-probe-timeout-sec = <%d>; };")};
+inline constexpr knob fw_devlink_set = {
+    KERNEL, "fw_devlink_set", "Set fw_devlink mode (off, permissive, on or rpm)",
+    dt_arg(R"(&chosen { fw-devlink = "%s[off,permissive,on,rpm]"; };)")};
+inline constexpr knob clk_ignore_unused = {
+    KERNEL, "clk_ignore_unused", "Keep unused clocks running after boot", dt("&chosen { clk-ignore-unused; };")};
+inline constexpr knob regulator_ignore_unused = {
+    KERNEL, "regulator_ignore_unused", "Keep unused regulators on after boot",
+    dt("&chosen { regulator-ignore-unused; };")};
+inline constexpr knob trace_buf_16m = {
+    KERNEL, "trace_buf_16m", "Set ftrace buffer size per CPU to 16 MB",
+    dt("&chosen { trace-buf-size-kb = <16384>; };")};
+inline constexpr knob trace_buf_size_set = {
+    KERNEL, "trace_buf_size_set", "Set ftrace buffer size per CPU in KB (4-65536)",
+    dt_arg("&chosen { trace-buf-size-kb = <%u>; };")};
+inline constexpr knob trace_sched_irq_boot = {
+    KERNEL, "trace_sched_irq_boot", "Record scheduler and interrupt events from boot",
+    dt(R"(&chosen { trace-event = "sched,irq,ipi"; };)")};
+inline constexpr knob trace_dump_on_oops = {
+    KERNEL, "trace_dump_on_oops", "Dump ftrace buffers of all CPUs to console on oops",
+    dt("&chosen { ftrace-dump-on-oops = <1>; };")};
+inline constexpr knob panic_timeout_set = {
+    KERNEL, "panic_timeout_set", "Set panic reboot delay in seconds (-1 at once, 0 never)",
+    dt_arg("&chosen { panic-timeout-sec = <%d>; };")};
+inline constexpr knob panic_on_oops_disable = {
+    KERNEL, "panic_on_oops_disable", "Kill the failing task and go on after an oops",
+    dt("&chosen { panic-on-oops = <0>; };")};
+inline constexpr knob panic_on_warn_enable = {
+    KERNEL, "panic_on_warn_enable", "Panic on kernel warning", dt("&chosen { panic-on-warn = <1>; };")};
+inline constexpr knob panic_on_bad_page_enable = {
+    KERNEL, "panic_on_bad_page_enable", "Panic when a corrupted page taints the kernel",
+    dt("&chosen { panic-on-taint = <0x20>; };")};
+
+template <word AllBits>
+inline constexpr knob panic_print_set = {
+    KERNEL, "panic_print_set", text<"Set panic_print system info mask (0x0-{})", AllBits>,
+    dt_arg("&chosen { panic-print = <0x%x>; };")};
+
+inline constexpr knob sysrq_enable = {
+    KERNEL, "sysrq_enable", "Enable all SysRq functions", dt("&chosen { sysrq-always-enabled; };")};
+inline constexpr knob ramdump_disable = {
+    KERNEL, "ramdump_disable", "Disable RAM dump after a crash",
+    both("ramdump", "off", R"(&chosen { ramdump-status = "disabled"; };)")};
+inline constexpr knob ramdump_full_enable = {
+    KERNEL, "ramdump_full_enable", "Dump the whole RAM after a crash",
+    both("ramdump", "full", R"(&chosen { ramdump-status = "okay"; };)")};
+inline constexpr knob ramdump_mini_enable = {
+    KERNEL, "ramdump_mini_enable", "Dump only registered minidump regions after a crash",
+    both("ramdump", "mini", R"(&chosen { minidump-status = "okay"; };)")};
+inline constexpr knob ramdump_to_usb = {KERNEL, "ramdump_to_usb", "Send RAM dump to USB host", env("dump_to", "usb")};
+inline constexpr knob lowmemorykiller_disable = {
+    KERNEL, "lowmemorykiller_disable", "Disable in-kernel low memory killer",
+    dt(R"(&chosen { lowmemorykiller-status = "disabled"; };)")};
+inline constexpr knob ramdump_skip_user_pages = {
+    KERNEL, "ramdump_skip_user_pages", "Leave user space pages out of the RAM dump",
+    dt("&chosen { ramdump-skip-user-pages; };")};
+inline constexpr knob pstore_all_reasons = {
+    KERNEL, "pstore_all_reasons", "Store kernel log in pstore on every reboot", dt("&ramoops { max-reason = <4>; };")};
+inline constexpr knob pstore_console_1m = {
+    KERNEL, "pstore_console_1m", "Set pstore console log size to 1 MB", dt("&ramoops { console-size = <0x100000>; };")};
+inline constexpr knob cfi_permissive = {
+    KERNEL, "cfi_permissive", "Warn on control flow integrity failure instead of panic",
+    dt(R"(&chosen { cfi = "warn"; };)")};
+inline constexpr knob selinux_permissive = {
+    KERNEL, "selinux_permissive", "Start SELinux in permissive mode on debug builds", env("selinux", "permissive")};
+inline constexpr knob ion_track_enable = {
+    KERNEL, "ion_track_enable", "Record owner and age of every ION buffer",
+    dt(R"(&chosen { ion-track-status = "okay"; };)")};
+inline constexpr knob mte_enable = {
+    KERNEL, "mte_enable", "Enable memory tagging extension and its tag storage",
+    both("mte", "on", R"(&chosen { mte-status = "okay"; };)")};
+inline constexpr knob mglru_disable = {
+    KERNEL, "mglru_disable", "Disable multi-generational LRU", dt(R"(&chosen { lru-gen-status = "disabled"; };)")};
+inline constexpr knob iommu_fault_panic_enable = {
+    KERNEL, "iommu_fault_panic_enable", "Panic on IOMMU translation fault", dt("&iommu { fault-panic; };")};
+inline constexpr knob irq_affinity_set = {
+    KERNEL, "irq_affinity_set", "Set default interrupt affinity CPU mask (0x1-0xff)",
+    dt_arg("&chosen { irq-default-affinity = <0x%x>; };")};
+inline constexpr knob irq_storm_detect_enable = {
+    KERNEL, "irq_storm_detect_enable", "Report interrupts firing over 10000 times per second",
+    dt("&chosen { irq-storm-limit-hz = <10000>; };")};
+inline constexpr knob irq_handler_warn_10ms = {
+    KERNEL, "irq_handler_warn_10ms", "Warn when a hard interrupt handler runs over 10 ms",
+    dt("&chosen { irq-handler-limit-ms = <10>; };")};
+inline constexpr knob thermal_critical_ignore = {
+    KERNEL, "thermal_critical_ignore", "Ignore critical temperature trip points",
+    dt(R"(&chosen { thermal-critical-status = "disabled"; };)")};
+inline constexpr knob pseudo_nmi_enable = {
+    KERNEL, "pseudo_nmi_enable", "Enable pseudo-NMI by GIC priorities (hard lockup backtrace)",
+    dt("&chosen { gicv3-pseudo-nmi = <1>; };")};
+inline constexpr knob emmc_hs400_disable = {
+    KERNEL, "emmc_hs400_disable", "Disable eMMC HS400 mode", dt("&mmc0 { no-mmc-hs400; };")};
+inline constexpr knob emmc_clk_50mhz = {
+    KERNEL, "emmc_clk_50mhz", "Limit eMMC clock to 50 MHz", dt("&mmc0 { max-frequency = <50000000>; };")};
+inline constexpr knob ufs_gear_1 = {
+    KERNEL, "ufs_gear_1", "Limit UFS link to high speed gear 1", dt("&ufshci { limit-hs-gear = <1>; };")};
+inline constexpr knob ufs_hibern8_disable = {
+    KERNEL, "ufs_hibern8_disable", "Disable UFS automatic hibern8",
+    dt(R"(&ufshci { auto-hibern8-status = "disabled"; };)")};
+inline constexpr knob ufs_clk_gating_disable = {
+    KERNEL, "ufs_clk_gating_disable", "Disable UFS clock gating",
+    dt(R"(&ufshci { clk-gating-status = "disabled"; };)")};
+inline constexpr knob ufs_write_booster_disable = {
+    KERNEL, "ufs_write_booster_disable", "Disable UFS WriteBooster",
+    dt(R"(&ufshci { write-booster-status = "disabled"; };)")};
+
+}  // namespace catalogue

@@ -1,0 +1,76 @@
+// Low power: suspend, deep idle, clock gating, wake-up sources.
+#pragma once
+
+#include "hwknobs_plat/catalogue/knob.h"
+
+namespace catalogue {
+
+inline constexpr knob suspend_disable = {
+    LPM, "suspend_disable", "Disable system suspend", dt("&spm { suspend-disable; };")};
+inline constexpr knob suspend_with_usb_allow = {
+    LPM, "suspend_with_usb_allow", "Allow system suspend while USB is connected",
+    dt("&usb0 { suspend-wake-lock-disable; };")};
+inline constexpr knob suspend_s2idle = {
+    LPM, "suspend_s2idle", "Use suspend-to-idle as default suspend mode",
+    dt(R"(&chosen { mem-sleep-default = "s2idle"; };)")};
+inline constexpr knob console_suspend_disable = {
+    LPM, "console_suspend_disable", "Keep console running during system suspend",
+    dt("&chosen { no-console-suspend; };")};
+inline constexpr knob pm_print_times = {
+    LPM, "pm_print_times", "Print suspend and resume time of each device", dt("&chosen { pm-print-times; };")};
+inline constexpr knob pm_debug_messages = {
+    LPM, "pm_debug_messages", "Enable suspend and resume debug messages", dt("&chosen { pm-debug-messages; };")};
+inline constexpr knob pm_async_disable = {
+    LPM, "pm_async_disable", "Suspend and resume devices one at a time", dt("&chosen { pm-async = <0>; };")};
+inline constexpr knob pm_test_set = {
+    LPM, "pm_test_set", "Stop suspend at stage freezer, devices, platform, processors or core",
+    dt_arg(R"(&chosen { pm-test = "%s[freezer,devices,platform,processors,core]"; };)")};
+inline constexpr knob dpm_watchdog_set = {
+    LPM, "dpm_watchdog_set", "Set device suspend watchdog timeout in seconds (1-600)",
+    dt_arg("&chosen { dpm-watchdog-timeout-sec = <%u>; };")};
+inline constexpr knob wakelock_log = {
+    LPM, "wakelock_log", "Print active wake locks when suspend is blocked", dt("&chosen { wake-lock-log; };")};
+inline constexpr knob wake_reason_log = {
+    LPM, "wake_reason_log", "Log wake-up source at each resume", dt("&spm { wake-reason-log; };")};
+inline constexpr knob wake_mask_set = {
+    LPM, "wake_mask_set", "Mask SPM wake-up sources by bit mask (0x0-0xffffffff)",
+    dt_arg("&spm { wake-source-mask = <0x%x>; };")};
+inline constexpr knob wake_modem_mask = {
+    LPM, "wake_modem_mask", "Mask wake-up by modem", dt("&spm { wake-mask-modem; };")};
+inline constexpr knob gic_pending_log = {
+    LPM, "gic_pending_log", "Log pending GIC interrupts when suspend is aborted", dt("&gic { suspend-pending-log; };")};
+inline constexpr knob soc_idle_disable = {
+    LPM, "soc_idle_disable", "Disable SoC idle states", dt("&lpm { soc-idle-disable; };")};
+inline constexpr knob clk26m_keep = {
+    LPM, "clk26m_keep", "Keep 26 MHz clock on in SoC idle and suspend", dt("&spm { clk26m-off-disable; };")};
+inline constexpr knob idle_self_refresh_disable = {
+    LPM, "idle_self_refresh_disable", "Keep DRAM out of self-refresh in SoC idle",
+    dt("&spm { idle-dram-self-refresh-disable; };")};
+inline constexpr knob bus_pll_keep = {
+    LPM, "bus_pll_keep", "Keep bus PLL on in SoC idle", dt("&spm { idle-bus-pll-off-disable; };")};
+inline constexpr knob vcore_lp_disable = {
+    LPM, "vcore_lp_disable", "Keep VCORE at active voltage in suspend", dt("&spm { vcore-low-power-disable; };")};
+inline constexpr knob xo_lp_disable = {
+    LPM, "xo_lp_disable", "Keep crystal oscillator out of low-power mode", env("xo_lp", "off")};
+inline constexpr knob cpu_subsys_off_disable = {
+    LPM, "cpu_subsys_off_disable", "Keep CPU subsystem powered in SoC idle",
+    dt("&lpm { cpu-subsystem-off-disable; };")};
+inline constexpr knob resource_req_log = {
+    LPM, "resource_req_log", "Log resource requests that block SoC idle", dt("&spm { resource-request-log; };")};
+inline constexpr knob sleep_count_log = {
+    LPM, "sleep_count_log", "Print 26 MHz off and self-refresh counters at resume", dt("&spm { sleep-counter-log; };")};
+inline constexpr knob lpm_trace_boot = {
+    LPM, "lpm_trace_boot", "Enable low-power trace events from boot", dt("&lpm { trace-at-boot; };")};
+inline constexpr knob spm_log_enable = {
+    LPM, "spm_log_enable", "Enable log of SPM firmware", both("spm_log", "on", "&spm { firmware-log; };")};
+inline constexpr knob spm_firmware_skip = {
+    LPM, "spm_firmware_skip", "Do not load SPM firmware, stay in WFI when idle", env("spm_fw", "off")};
+inline constexpr knob clkgate_bus_disable = {
+    LPM, "clkgate_bus_disable", "Disable hardware clock gating of system bus",
+    dt("&sysbus { clock-gating-disable; };")};
+inline constexpr knob clkgate_disp_disable = {
+    LPM, "clkgate_disp_disable", "Disable hardware clock gating of display", dt("&dispsys { clock-gating-disable; };")};
+inline constexpr knob emmc_rpm_disable = {
+    LPM, "emmc_rpm_disable", "Disable eMMC runtime suspend", dt("&mmc0 { runtime-pm-disable; };")};
+
+}  // namespace catalogue

@@ -1,0 +1,94 @@
+// Regulators (bucks, LDOs), charger, battery gauge, power key.
+#pragma once
+
+#include "hwknobs_plat/catalogue/knob.h"
+
+namespace catalogue {
+
+template <word Buck>
+inline constexpr knob buck_plus_25mv = {
+    PMIC, text<"buck_{}_plus_25mv", Buck>, text<"Raise buck {} by 25 mV in the boot loader", Buck>,
+    env("buck_adj", text<"{}-p25", Buck>)};
+
+template <word Buck>
+inline constexpr knob buck_offset = {
+    PMIC, text<"buck_{}_offset", Buck>, text<"Offset buck {} in uV (-50000 to 50000)", Buck>,
+    dt_arg(text<"&{} { regulator-microvolt-offset = <%d>; };", Buck>)};
+
+inline constexpr knob buck_pwm_all = {
+    PMIC, "buck_pwm_all", "Force all bucks to PWM mode", dt("&pmic { buck-force-pwm; };")};
+
+template <word Buck>
+inline constexpr knob buck_pwm = {
+    PMIC, text<"buck_{}_pwm", Buck>, text<"Force buck {} to PWM mode", Buck>,
+    dt(text<"&{} { regulator-initial-mode = <1>; };", Buck>)};
+
+inline constexpr knob pmic_lp_mode_disable = {
+    PMIC, "pmic_lp_mode_disable", "Keep bucks and LDOs out of low-power mode in suspend",
+    dt(R"(&pmic { low-power-mode = "off"; };)")};
+inline constexpr knob ldo_vsd33_on = {
+    PMIC, "ldo_vsd33_on", "Keep SD card LDO vsd33 on", dt("&vsd33 { regulator-always-on; };")};
+inline constexpr knob pmic_oc_log_only = {
+    PMIC, "pmic_oc_log_only", "Log regulator over-current, do not switch off",
+    dt(R"(&pmic { over-current-action = "log"; };)")};
+inline constexpr knob buck_vgpu11_oc_error_set = {
+    PMIC, "buck_vgpu11_oc_error_set", "Set over-current error limit of buck vgpu11 in uA",
+    dt_arg("&vgpu11 { regulator-oc-error-microamp = <%u>; };")};
+inline constexpr knob pmic_uvlo_2600mv = {
+    PMIC, "pmic_uvlo_2600mv", "Set PMIC under-voltage lockout to 2600 mV", env("uvlo_mv", "2600")};
+inline constexpr knob pmic_thermal_shutdown_disable = {
+    PMIC, "pmic_thermal_shutdown_disable", "Disable PMIC thermal shutdown",
+    dt(R"(&pmic { thermal-shutdown = "off"; };)")};
+inline constexpr knob pwrkey_reset_disable = {
+    PMIC, "pwrkey_reset_disable", "Disable long-press reset of the power key",
+    both("lprst", "off", "&pmic_keys { long-press-mode = <0>; };")};
+inline constexpr knob pwrkey_reset_time_8s = {
+    PMIC, "pwrkey_reset_time_8s", "Set long-press reset time of the power key to 8 s",
+    dt("&pmic_keys { power-off-time-sec = <8>; };")};
+inline constexpr knob pwrkey_reset_time_set = {
+    PMIC, "pwrkey_reset_time_set", "Set long-press reset time of the power key (5, 8, 11 or 14 s)",
+    dt_arg("&pmic_keys { power-off-time-sec = <%u>; };")};
+inline constexpr knob pmic_reset_cold = {
+    PMIC, "pmic_reset_cold", "Power-cycle all rails on reboot", dt(R"(&pmic { reset-type = "cold"; };)")};
+inline constexpr knob pmic_reset_warm = {
+    PMIC, "pmic_reset_warm", "Use warm reset on reboot and panic (DRAM stays powered)",
+    dt(R"(&pmic { reset-type = "warm"; };)")};
+inline constexpr knob pmic_wdt_disable = {
+    PMIC, "pmic_wdt_disable", "Disable PMIC watchdog",
+    both("pmic_wdt", "off", R"(&pmic_watchdog { status = "disabled"; };)")};
+inline constexpr knob pmic_reg_dump = {
+    PMIC, "pmic_reg_dump", "Dump PMIC registers in boot loader and at kernel probe",
+    both("pmic_dump", "1", "&pmic { probe-register-dump; };")};
+inline constexpr knob pmic_reg_print = {
+    PMIC, "pmic_reg_print", "Print one PMIC register at probe by address (0x0-0xffff)",
+    dt_arg("&pmic { probe-register-print = <0x%x>; };")};
+inline constexpr knob pmic_irq_log = {
+    PMIC, "pmic_irq_log", "Log each PMIC interrupt with its status bits", dt("&pmic { interrupt-log; };")};
+inline constexpr knob pmic_boot_reason_log = {
+    PMIC, "pmic_boot_reason_log", "Print PMIC power-on and power-off reasons at boot",
+    dt("&pmic { power-reason-log; };")};
+inline constexpr knob spmi_parity_panic = {
+    PMIC, "spmi_parity_panic", "Panic on SPMI parity error", dt(R"(&spmi { parity-error-action = "panic"; };)")};
+inline constexpr knob chg_disable = {
+    PMIC, "chg_disable", "Disable battery charging", dt(R"(&charger { charging = "off"; };)")};
+inline constexpr knob chg_input_500ma = {
+    PMIC, "chg_input_500ma", "Limit charger input current to 500 mA",
+    dt("&charger { input-current-limit-microamp = <500000>; };")};
+inline constexpr knob chg_current_set = {
+    PMIC, "chg_current_set", "Set charge current limit in uA (100000-3000000)",
+    dt_arg("&charger { constant-charge-current-max-microamp = <%u>; };")};
+inline constexpr knob chg_jeita_disable = {
+    PMIC, "chg_jeita_disable", "Ignore JEITA temperature ranges when charging", dt(R"(&charger { jeita = "off"; };)")};
+inline constexpr knob gauge_soc_50 = {
+    PMIC, "gauge_soc_50", "Report fixed battery level of 50 percent", dt("&gauge { fixed-capacity-percent = <50>; };")};
+inline constexpr knob gauge_temp_set = {
+    PMIC, "gauge_temp_set", "Report fixed battery temperature in degrees Celsius (-20 to 60)",
+    dt_arg("&gauge { fixed-temperature-celsius = <%d>; };")};
+inline constexpr knob gauge_low_shutdown_disable = {
+    PMIC, "gauge_low_shutdown_disable", "Do not shut down at low battery voltage",
+    dt(R"(&gauge { low-voltage-shutdown = "off"; };)")};
+inline constexpr knob batt_throttle_disable = {
+    PMIC, "batt_throttle_disable", "Disable CPU and GPU throttling on battery voltage dips",
+    dt(R"(&battery { voltage-dip-throttling = "off"; };)")};
+
+}  // namespace catalogue

@@ -1,0 +1,75 @@
+// Tracing, profiling, logs, UART and debug ports.
+#pragma once
+
+#include "hwknobs_plat/catalogue/knob.h"
+
+namespace catalogue {
+
+inline constexpr knob earlycon_enable = {
+    TOOL, "earlycon_enable", "Enable early console on UART", dt("&chosen { earlycon; };")};
+inline constexpr knob uart_shell_set = {
+    TOOL, "uart_shell_set", "Switch Android shell on UART console on or off",
+    dt_arg(R"(&chosen { uart-shell = "%s[on,off]"; };)")};
+inline constexpr knob uart_baud_921600 = {
+    TOOL, "uart_baud_921600", "Set UART baud rate to 921600",
+    both("baud", "921600", "&uart0 { current-speed = <921600>; };")};
+inline constexpr knob loader_log_verbose = {
+    TOOL, "loader_log_verbose", "Print all boot loader messages", env("bl_log", "5")};
+inline constexpr knob log_store_enable = {
+    TOOL, "log_store_enable", "Save boot loader and kernel log to storage",
+    both("bl_save", "on", "&chosen { log-store; };")};
+inline constexpr knob boot_reason_print = {
+    TOOL, "boot_reason_print", "Print boot reason and watchdog reset status at boot",
+    dt("&watchdog { reset-status-print; };")};
+inline constexpr knob boot_profile_enable = {
+    TOOL, "boot_profile_enable", "Enable boot time profiling", both("bprof", "on", "&chosen { boot-profile; };")};
+inline constexpr knob adb_early_start = {
+    TOOL, "adb_early_start", "Start adb early at boot", dt("&chosen { adb-early-start; };")};
+inline constexpr knob usb_dl_wait_30s = {
+    TOOL, "usb_dl_wait_30s", "Wait 30 s for USB download at power-on", env("dl_wait", "30")};
+inline constexpr knob boot_fastboot = {TOOL, "boot_fastboot", "Boot into fastboot mode", env("mode", "fastboot")};
+inline constexpr knob jtag_pins_enable = {
+    TOOL, "jtag_pins_enable", "Enable JTAG on dedicated debug pins", env("jtag", "pin")};
+inline constexpr knob last_pc_print = {
+    TOOL, "last_pc_print", "Print last PC of each CPU after a watchdog reset", dt("&debug_latch { last-pc-print; };")};
+inline constexpr knob bus_tracker_enable = {
+    TOOL, "bus_tracker_enable", "Record last CPU bus transactions for analysis after reset",
+    dt(R"(&bus_tracker { status = "okay"; };)")};
+
+template <unsigned Cpu>
+inline constexpr knob etm_enable = {
+    TOOL, text<"etm_cpu{}_enable", Cpu>, text<"Enable ETM instruction trace of CPU{}", Cpu>,
+    dt(text<R"(&etm{} { status = "okay"; };)", Cpu>)};
+
+template <unsigned Cpu>
+inline constexpr knob ete_enable = {
+    TOOL, text<"ete_cpu{}_enable", Cpu>, text<"Enable ETE instruction trace of CPU{}", Cpu>,
+    dt(text<R"(&ete{} { status = "okay"; };)", Cpu>)};
+
+inline constexpr knob etb_enable = {
+    TOOL, "etb_enable", "Enable CoreSight ETB on-chip trace sink", dt(R"(&etb { status = "okay"; };)")};
+inline constexpr knob etf_enable = {
+    TOOL, "etf_enable", "Enable CoreSight ETF on-chip trace sink", dt(R"(&etf { status = "okay"; };)")};
+inline constexpr knob etr_enable = {
+    TOOL, "etr_enable", "Enable CoreSight ETR trace sink in DRAM", dt(R"(&etr { status = "okay"; };)")};
+inline constexpr knob trbe_enable = {
+    TOOL, "trbe_enable", "Enable per-CPU trace buffers (TRBE)", dt(R"(&trbe { status = "okay"; };)")};
+inline constexpr knob perf_stat_events = {
+    TOOL, "perf_stat_events", "Set Boot Perf Stat Events", env_arg("perf_event", "%s")};
+inline constexpr knob perf_paranoid_set = {
+    TOOL, "perf_paranoid_set", "Set perf_event_paranoid level (-1 to 3, 3 denies all users)",
+    dt_arg("&chosen { perf-event-paranoid = <%d>; };")};
+inline constexpr knob pmu_idle_keep = {
+    TOOL, "pmu_idle_keep", "Keep PMU counters running in CPU idle", dt("&pmu { idle-keep-on; };")};
+inline constexpr knob dsu_pmu_enable = {
+    TOOL, "dsu_pmu_enable", "Enable DSU performance counters", dt(R"(&dsu_pmu { status = "okay"; };)")};
+inline constexpr knob spe_enable = {
+    TOOL, "spe_enable", "Enable statistical profiling (SPE)", dt(R"(&spe { status = "okay"; };)")};
+inline constexpr knob thermal_log_1s = {
+    TOOL, "thermal_log_1s", "Log all thermal zones every second", dt("&thermal_zones { log-period-ms = <1000>; };")};
+inline constexpr knob conn_log_enable = {
+    TOOL, "conn_log_enable", "Enable log of Wi-Fi and Bluetooth firmware", dt("&connectivity { firmware-log; };")};
+inline constexpr knob sensorhub_log_enable = {
+    TOOL, "sensorhub_log_enable", "Enable log of sensor hub firmware", dt("&sensor_hub { firmware-log; };")};
+
+}  // namespace catalogue

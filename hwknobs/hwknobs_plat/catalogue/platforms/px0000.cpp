@@ -1,0 +1,20 @@
+// px0000: the test platform. Its knobs are for trying the tool on any device; the fourth cannot be selected.
+#include "hwknobs_plat/catalogue/table.h"
+
+using namespace catalogue;
+
+namespace {
+
+constexpr row rows[] = {
+    knob{TOOL, "dummy_1_off", "Dummy 1 OFF", both("AA", "BB", R"(&SUSPEND { status="test-overide-1"; };)")},
+    knob{TOOL, "dummy_2_off", "Dummy 2 OFF", env("EE", "FF")},
+    knob{TOOL, "dummy_3_off", "Dummy 3 OFF", dt(R"(&SUSPEND { status="test-overide-2"; };)")},
+    knob{TOOL, "dummy_4_off", "Dummy 4 OFF", {true, {"GG", "%dmv"}, R"(&SUSPEND { status="test-overide-%d"; };)"}},
+    knob{TOOL, "test_level_low", "Test level low", env("test_level", "low")},
+    knob{TOOL, "test_level_mid", "Test level mid", env("test_level", "mid")},
+    knob{TOOL, "test_level_high", "Test level high", env("test_level", "high")},
+};
+
+}  // namespace
+
+constinit const hwknobs_plat px0000 = version_0<rows>("px0000");

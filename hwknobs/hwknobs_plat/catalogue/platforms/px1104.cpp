@@ -1,0 +1,155 @@
+// px1104: entry level, 4 cores, kernel 3.18.
+//
+// CPU      cpu: 4 x A53 (cpu0-3), 442 to 1300 MHz
+// GPU      Mali-T720, 1 shader core, 299 to 450 MHz
+// DRAM     LPDDR2, 1 channel, 1066 / 938 / 800 Mbps
+// Display  1 DSI link, up to 60 Hz; panels hx8394_wxga_video, ili9881_wxga_video, st7703_wxga_video
+// PMIC     rails vproc, vcore, vgpu, vdram, vpa; LDOs vio18, vio28, vemmc33, vsd33, vusb33, vcam28, vvib
+// Storage  eMMC 4.5
+// Modem    3G
+// clang-format off
+#include "hwknobs_plat/catalogue/knobs.h"
+#include "hwknobs_plat/catalogue/table.h"
+
+using namespace catalogue;
+
+namespace {
+
+constexpr row rows[] = {
+    // Kernel debugging and behavior
+    kmemleak_disable,
+    kmemleak_enable,
+    slub_debug_enable,
+    lockdep_enable,
+    hung_task_panic_enable,
+    softlockup_panic_enable,
+    watchdog_disable,
+    console_level_set,
+    uart_console_disable,
+    uart_console_enable,
+    initcall_debug_enable,
+    clk_ignore_unused,
+    regulator_ignore_unused,
+    trace_buf_16m,
+    trace_sched_irq_boot,
+    panic_timeout_set,
+    sysrq_enable,
+    ramdump_full_enable,
+    ramdump_to_usb,
+    iommu_fault_panic_enable,
+
+    // CPU
+    boot_core_only,
+    cpu3_off,
+    cpu_hotplug_disable,
+    cpufreq_disable,
+    cpu_fix<1300>,
+    cpu_fix<442>,
+    cpu_cap_set<442, 1300>,
+    boot_opp_max,
+    cpuidle_disable,
+    core_off_disable,
+    cluster_off_disable,
+    prefetch_disable,
+    cpu_clock_gating_disable,
+    svs_disable,
+    cpu_plus_25mv,
+    cpu_voltage_offset,
+    cpu_throttle_disable,
+
+    // DRAM
+    dram_fix<1066>,
+    dram_fix<800>,
+    dram_dvfs_disable,
+    dram_train_full,
+    dram_train_skip,
+    dram_refresh_2x,
+    dram_refresh_per_bank,
+    dram_mr4_override<7>,
+    dram_self_refresh_disable,
+    dram_test_full,
+
+    // EMI: memory controller and buses
+    emi_bwmon_enable,
+    emi_bwmon_window_set,
+    emi_mpu_panic,
+    emi_mpu_log,
+    bus_hang_enable,
+
+    // VCORE: core rail levels
+    vcore_dvfs_disable,
+    vcore_fix<1125>,
+    vcore_hold_boot,
+    vcore_req_log,
+
+    // PMIC and charging
+    buck_plus_25mv<"vcore">,
+    buck_offset<"vcore">,
+    buck_pwm_all,
+    pmic_lp_mode_disable,
+    ldo_vsd33_on,
+    pmic_oc_log_only,
+    pwrkey_reset_disable,
+    pwrkey_reset_time_8s,
+    pmic_reset_warm,
+    pmic_reg_dump,
+    gauge_soc_50,
+
+    // GPU
+    gpu_fix<450>,
+    gpu_fix<299>,
+    gpu_max<390>,
+    gpu_dvfs_disable,
+    gpu_disable,
+    gpu_policy_always_on,
+    gpu_soft_stop_disable,
+    gpu_reset_dump,
+    gpu_mmu_fault_panic,
+    gpu_irq_mask_set,
+
+    // Display
+    lcm_settings,
+    panel<"hx8394_wxga_video">,
+    panel<"ili9881_wxga_video">,
+    panel<"st7703_wxga_video">,
+    esd_check_disable,
+    dsi_clk_continuous,
+    dsi_ssc_disable,
+    bl_boot_level_set,
+    bl_fixed_50,
+    cabc_disable,
+    disp_idle_disable,
+    disp_underrun_red,
+    disp_frame_trace,
+    dsi_bist_boot,
+    boot_logo_disable,
+    pq_bypass,
+
+    // LPM: low power
+    suspend_disable,
+    console_suspend_disable,
+    pm_print_times,
+    pm_test_set,
+    wakelock_log,
+    wake_reason_log,
+    soc_idle_disable,
+    clk26m_keep,
+    idle_self_refresh_disable,
+    clkgate_bus_disable,
+    emmc_rpm_disable,
+
+    // TOOL: logs, trace and bring-up
+    earlycon_enable,
+    uart_shell_set,
+    uart_baud_921600,
+    loader_log_verbose,
+    log_store_enable,
+    boot_reason_print,
+    boot_profile_enable,
+    jtag_pins_enable,
+    last_pc_print,
+};
+
+}  // namespace
+
+constinit const hwknobs_plat px1104 = version_0<rows>("px1104");

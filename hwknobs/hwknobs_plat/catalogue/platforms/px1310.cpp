@@ -1,0 +1,202 @@
+// px1310: upper mid range, 6 cores, kernel 3.18.
+//
+// CPU      little: 4 x A53 (cpu0-3), 494 to 1391 MHz
+//          big: 2 x A72 (cpu4-5), 754 to 2002 MHz
+// GPU      Mali-T760, 4 shader cores, 253 to 650 MHz
+// DRAM     LPDDR3, 2 channels, 1866 / 1600 / 1270 Mbps
+// Display  1 DSI link, up to 60 Hz; panels nt35695_fhd_cmd, nt36672_fhd_video, r63419_wqhd_cmd
+// PMIC     rails vproc1, vproc2, vcore, vgpu, vdram, vs1, vs2; LDOs vio18, vio28, vemmc33, vsd33, vusb33, vcam28,
+//          vvib, vconn18, vconn33, vrf18
+// Storage  eMMC 5.1
+// Modem    LTE
+// clang-format off
+#include "hwknobs_plat/catalogue/knobs.h"
+#include "hwknobs_plat/catalogue/table.h"
+
+using namespace catalogue;
+
+namespace {
+
+constexpr row rows[] = {
+    // Kernel debugging and behavior
+    kmemleak_disable,
+    kmemleak_enable,
+    slub_debug_enable,
+    lockdep_enable,
+    hung_task_panic_enable,
+    softlockup_panic_enable,
+    watchdog_disable,
+    watchdog_percpu_kick_enable,
+    console_level_set,
+    uart_console_disable,
+    uart_console_enable,
+    log_buf_8m,
+    initcall_debug_enable,
+    clk_ignore_unused,
+    regulator_ignore_unused,
+    trace_sched_irq_boot,
+    trace_dump_on_oops,
+    panic_timeout_set,
+    panic_on_oops_disable,
+    sysrq_enable,
+    ramdump_full_enable,
+    ramdump_to_usb,
+    lowmemorykiller_disable,
+    ion_track_enable,
+    iommu_fault_panic_enable,
+    irq_storm_detect_enable,
+    irq_handler_warn_10ms,
+    emmc_hs400_disable,
+
+    // CPU
+    boot_core_only,
+    big_core_off<5, "A72">,
+    big_off<1>,
+    cpu_hotplug_disable,
+    cpufreq_disable,
+    cpu_fix_max,
+    cpu_fix_min,
+    cluster_fix<"little", 1391>,
+    cluster_fix<"big", 2002>,
+    big_cap_set<754, 2002>,
+    hmp_disable,
+    isolate_big<"4-5">,
+    cpuidle_disable,
+    core_off_disable,
+    little_cluster_off_disable,
+    big_cluster_off_disable,
+    cci_fix_max,
+    prefetch_disable,
+    cpu_clock_gating_disable,
+    cache_ecc_log,
+    svs_disable,
+    big_plus_25mv,
+    big_voltage_offset,
+    cpu_throttle_disable,
+
+    // DRAM
+    dram_fix<1866>,
+    dram_fix<1600>,
+    dram_fix<1270>,
+    dram_dvfs_disable,
+    dram_train_full,
+    dram_train_skip,
+    dram_zq_calibration_disable,
+    dram_refresh_2x,
+    dram_refresh_per_bank,
+    dram_mr4_tracking_disable,
+    dram_mr4_override<7>,
+    dram_self_refresh_disable,
+    dram_channel0_only,
+    dram_test_quick,
+    dram_test_full,
+
+    // EMI: memory controller and buses
+    emi_bwmon_enable,
+    emi_bwmon_window_set,
+    emi_hash_disable,
+    emi_mpu_panic,
+    emi_mpu_log,
+    bus_hang_enable,
+
+    // VCORE: core rail levels
+    vcore_dvfs_disable,
+    vcore_fix<1125>,
+    vcore_hold_boot,
+    vcore_req_log,
+
+    // PMIC and charging
+    buck_plus_25mv<"vproc2">,
+    buck_plus_25mv<"vcore">,
+    buck_plus_25mv<"vdram">,
+    buck_offset<"vcore">,
+    buck_pwm_all,
+    pmic_lp_mode_disable,
+    ldo_vsd33_on,
+    pmic_oc_log_only,
+    pwrkey_reset_disable,
+    pwrkey_reset_time_8s,
+    pmic_reset_warm,
+    pmic_reg_dump,
+    pmic_irq_log,
+    chg_input_500ma,
+    gauge_soc_50,
+    batt_throttle_disable,
+
+    // GPU
+    gpu_fix<650>,
+    gpu_fix<253>,
+    gpu_max<546>,
+    gpu_dvfs_disable,
+    gpu_plus_25mv,
+    gpu_disable,
+    gpu_policy_always_on,
+    gpu_policy_coarse_demand,
+    enable_gpu_acp,
+    disable_gpu_coherency,
+    gpu_soft_stop_disable,
+    gpu_reset_dump,
+    gpu_mmu_fault_panic,
+    gpu_irq_mask_set,
+
+    // Display
+    lcm_settings,
+    panel<"nt35695_fhd_cmd">,
+    panel<"nt36672_fhd_video">,
+    panel<"r63419_wqhd_cmd">,
+    panel_id_check_skip,
+    seamless_logo_disable,
+    esd_check_disable,
+    dsi_lane_rate_set<1500>,
+    dsi_clk_continuous,
+    dsi_ssc_disable,
+    bl_boot_level_set,
+    bl_fixed_50,
+    bl_pwm_20khz,
+    cabc_disable,
+    disp_idle_disable,
+    te_ignore,
+    disp_underrun_red,
+    disp_underrun_panic,
+    disp_frame_trace,
+    dsi_bist_boot,
+    boot_logo_disable,
+    pq_bypass,
+
+    // LPM: low power
+    suspend_disable,
+    suspend_with_usb_allow,
+    console_suspend_disable,
+    pm_print_times,
+    pm_async_disable,
+    pm_test_set,
+    wakelock_log,
+    wake_reason_log,
+    wake_modem_mask,
+    soc_idle_disable,
+    clk26m_keep,
+    idle_self_refresh_disable,
+    spm_firmware_skip,
+    clkgate_bus_disable,
+    clkgate_disp_disable,
+    emmc_rpm_disable,
+
+    // TOOL: logs, trace and bring-up
+    earlycon_enable,
+    uart_shell_set,
+    uart_baud_921600,
+    loader_log_verbose,
+    log_store_enable,
+    boot_reason_print,
+    boot_profile_enable,
+    adb_early_start,
+    usb_dl_wait_30s,
+    boot_fastboot,
+    jtag_pins_enable,
+    last_pc_print,
+    conn_log_enable,
+};
+
+}  // namespace
+
+constinit const hwknobs_plat px1310 = version_0<rows>("px1310");

@@ -1,0 +1,170 @@
+// px2104: entry level, 4 cores, kernel 4.4.
+//
+// CPU      cpu: 4 x A53 (cpu0-3), 299 to 1500 MHz
+// GPU      Mali-T720, 2 shader cores, 350 to 560 MHz
+// DRAM     LPDDR3, 1 channel, 1333 / 1066 / 800 Mbps
+// Display  1 DSI link, up to 60 Hz; panels hx8394_wxga_video, ili9881_wxga_video, jd9365_wxga_video
+// PMIC     rails vproc, vcore, vgpu, vdram, vpa; LDOs vio18, vio28, vemmc33, vsd33, vusb33, vcam28, vvib, vconn18
+// Storage  eMMC 5.0
+// Modem    LTE
+// clang-format off
+#include "hwknobs_plat/catalogue/knobs.h"
+#include "hwknobs_plat/catalogue/table.h"
+
+using namespace catalogue;
+
+namespace {
+
+constexpr row rows[] = {
+    // Kernel debugging and behavior
+    kmemleak_disable,
+    kmemleak_enable,
+    slub_debug_enable,
+    page_owner_enable,
+    lockdep_enable,
+    hung_task_panic_enable,
+    softlockup_panic_enable,
+    watchdog_disable,
+    console_level_set,
+    uart_console_disable,
+    uart_console_enable,
+    initcall_debug_enable,
+    clk_ignore_unused,
+    regulator_ignore_unused,
+    trace_buf_16m,
+    trace_sched_irq_boot,
+    panic_timeout_set,
+    panic_on_warn_enable,
+    sysrq_enable,
+    ramdump_full_enable,
+    ramdump_to_usb,
+    iommu_fault_panic_enable,
+    emmc_hs400_disable,
+
+    // CPU
+    boot_core_only,
+    cpu3_off,
+    cpu_hotplug_disable,
+    cpufreq_disable,
+    cpu_fix<1500>,
+    cpu_fix<299>,
+    cpu_cap_set<299, 1500>,
+    boot_opp_max,
+    interactive_timer_10ms,
+    cpuidle_disable,
+    core_off_disable,
+    cluster_off_disable,
+    prefetch_disable,
+    cpu_clock_gating_disable,
+    svs_disable,
+    cpu_plus_25mv,
+    cpu_voltage_offset,
+    cpu_throttle_disable,
+    erratum_skip<"A53", 845719, "32-bit loads">,
+
+    // DRAM
+    dram_fix<1333>,
+    dram_fix<800>,
+    dram_dvfs_disable,
+    dram_train_full,
+    dram_train_renew,
+    dram_refresh_2x,
+    dram_refresh_per_bank,
+    dram_mr4_override<7>,
+    dram_self_refresh_disable,
+    dram_power_down_disable,
+    dram_test_full,
+
+    // EMI: memory controller and buses
+    emi_bwmon_enable,
+    emi_mpu_panic,
+    emi_mpu_log,
+    bus_hang_enable,
+    emi_clock_gating_disable,
+    dramc_pmu_enable,
+
+    // VCORE: core rail levels
+    vcore_dvfs_disable,
+    vcore_fix<1000>,
+    vcore_hold_boot,
+    vcore_req_log,
+
+    // PMIC and charging
+    buck_plus_25mv<"vcore">,
+    buck_offset<"vcore">,
+    buck_pwm_all,
+    pmic_lp_mode_disable,
+    ldo_vsd33_on,
+    pmic_oc_log_only,
+    pwrkey_reset_disable,
+    pwrkey_reset_time_8s,
+    pmic_reset_warm,
+    pmic_reg_dump,
+    chg_input_500ma,
+    gauge_soc_50,
+    batt_throttle_disable,
+
+    // GPU
+    gpu_fix<560>,
+    gpu_fix<350>,
+    gpu_max<450>,
+    gpu_dvfs_disable,
+    gpu_disable,
+    gpu_policy_always_on,
+    gpu_one_core,
+    gpu_soft_stop_disable,
+    gpu_reset_dump,
+    gpu_mmu_fault_panic,
+    gpu_irq_mask_set,
+
+    // Display
+    lcm_settings,
+    panel<"hx8394_wxga_video">,
+    panel<"ili9881_wxga_video">,
+    panel<"jd9365_wxga_video">,
+    panel_id_check_skip,
+    esd_check_disable,
+    dsi_clk_continuous,
+    dsi_ssc_disable,
+    bl_boot_level_set,
+    bl_fixed_50,
+    bl_pwm_20khz,
+    cabc_disable,
+    disp_idle_disable,
+    disp_underrun_red,
+    disp_frame_trace,
+    dsi_bist_boot,
+    boot_logo_disable,
+    pq_bypass,
+
+    // LPM: low power
+    suspend_disable,
+    console_suspend_disable,
+    pm_print_times,
+    pm_test_set,
+    wakelock_log,
+    wake_reason_log,
+    soc_idle_disable,
+    clk26m_keep,
+    idle_self_refresh_disable,
+    vcore_lp_disable,
+    sleep_count_log,
+    clkgate_bus_disable,
+    emmc_rpm_disable,
+
+    // TOOL: logs, trace and bring-up
+    earlycon_enable,
+    uart_shell_set,
+    uart_baud_921600,
+    loader_log_verbose,
+    log_store_enable,
+    boot_reason_print,
+    boot_profile_enable,
+    jtag_pins_enable,
+    last_pc_print,
+    perf_stat_events,
+};
+
+}  // namespace
+
+constinit const hwknobs_plat px2104 = version_0<rows>("px2104");

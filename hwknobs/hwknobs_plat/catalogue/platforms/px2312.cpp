@@ -1,0 +1,226 @@
+// px2312: upper mid range, 10 cores, kernel 4.4.
+//
+// CPU      little: 4 x A35 (cpu0-3), 598 to 1898 MHz
+//          mid: 4 x A53 (cpu4-7), 793 to 2197 MHz
+//          big: 2 x A73 (cpu8-9), 1131 to 2548 MHz
+// GPU      Mali-T880, 4 shader cores, 280 to 850 MHz
+// DRAM     LPDDR4X, 2 channels, 3733 / 3200 / 2400 / 1600 Mbps
+// Display  2 DSI links, up to 60 Hz; panels nt35695_fhd_cmd, s6e3ha6_wqhd_cmd, r63419_wqhd_cmd
+// PMIC     rails vproc1, vproc2, vcore, vmodem, vgpu, vdram1, vdram2, vs1, vs2, vsram_core; LDOs vio18, vio28,
+//          vemmc33, vsd33, vusb33, vcam28, vvib, vconn18, vconn33, vrf18, vsim1, vaux18, vufs18
+// Storage  UFS 2.1
+// Modem    LTE
+// clang-format off
+#include "hwknobs_plat/catalogue/knobs.h"
+#include "hwknobs_plat/catalogue/table.h"
+
+using namespace catalogue;
+
+namespace {
+
+constexpr row rows[] = {
+    // Kernel debugging and behavior
+    kmemleak_disable,
+    kmemleak_enable,
+    slub_debug_enable,
+    page_owner_enable,
+    memtest_4_patterns,
+    lockdep_enable,
+    hung_task_panic_enable,
+    softlockup_panic_enable,
+    watchdog_disable,
+    watchdog_percpu_kick_enable,
+    console_level_set,
+    uart_console_disable,
+    uart_console_enable,
+    log_buf_8m,
+    initcall_debug_enable,
+    clk_ignore_unused,
+    regulator_ignore_unused,
+    trace_buf_16m,
+    trace_sched_irq_boot,
+    trace_dump_on_oops,
+    panic_timeout_set,
+    panic_on_oops_disable,
+    panic_on_warn_enable,
+    sysrq_enable,
+    ramdump_full_enable,
+    ramdump_to_usb,
+    lowmemorykiller_disable,
+    ion_track_enable,
+    iommu_fault_panic_enable,
+    irq_storm_detect_enable,
+    irq_handler_warn_10ms,
+    ufs_gear_1,
+    ufs_hibern8_disable,
+
+    // CPU
+    boot_core_only,
+    big_core_off<9, "A73">,
+    mid_off,
+    big_off<2>,
+    cpu_hotplug_disable,
+    cpufreq_disable,
+    cpu_fix_max,
+    cpu_fix_min,
+    cluster_fix<"little", 1898>,
+    cluster_fix<"big", 2548>,
+    big_cap_set<1131, 2548>,
+    boot_opp_max,
+    hmp_disable,
+    isolate_big<"8-9">,
+    cpuidle_disable,
+    core_off_disable,
+    little_cluster_off_disable,
+    mid_cluster_off_disable,
+    big_cluster_off_disable,
+    cci_fix_max,
+    prefetch_disable,
+    cpu_clock_gating_disable,
+    cache_ecc_log,
+    svs_disable,
+    cpu_plus_25mv,
+    cpu_voltage_offset,
+    cpu_throttle_disable,
+
+    // DRAM
+    dram_fix<3733>,
+    dram_fix<1600>,
+    dram_min<2400>,
+    dram_dvfs_disable,
+    dram_train_full,
+    dram_train_renew,
+    dram_dqs_osc_disable,
+    dram_refresh_2x,
+    dram_refresh_all_bank,
+    dram_mr4_override<7>,
+    dram_self_refresh_disable,
+    dram_power_down_disable,
+    dram_odt_set,
+    dram_dbi_disable,
+    dram_channel0_only,
+    dram_test_full,
+
+    // EMI: memory controller and buses
+    emi_bwmon_enable,
+    emi_bwmon_window_set,
+    emi_hash_disable,
+    emi_mpu_panic,
+    emi_mpu_log,
+    bus_hang_enable,
+    emi_clock_gating_disable,
+    dramc_pmu_enable,
+
+    // VCORE: core rail levels
+    vcore_dvfs_disable,
+    vcore_fix<900>,
+    vcore_hold_boot,
+    vcore_req_log,
+
+    // PMIC and charging
+    buck_plus_25mv<"vproc2">,
+    buck_plus_25mv<"vcore">,
+    buck_plus_25mv<"vdram1">,
+    buck_offset<"vcore">,
+    buck_pwm_all,
+    buck_pwm<"vproc2">,
+    pmic_lp_mode_disable,
+    ldo_vsd33_on,
+    pmic_oc_log_only,
+    pwrkey_reset_disable,
+    pwrkey_reset_time_8s,
+    pmic_reset_warm,
+    pmic_reg_dump,
+    pmic_irq_log,
+    pmic_boot_reason_log,
+    chg_disable,
+    chg_input_500ma,
+    gauge_soc_50,
+    batt_throttle_disable,
+
+    // GPU
+    gpu_fix<850>,
+    gpu_fix<280>,
+    gpu_max<750>,
+    gpu_dvfs_disable,
+    gpu_plus_25mv,
+    gpu_disable,
+    gpu_policy_always_on,
+    gpu_policy_coarse_demand,
+    gpu_one_core,
+    gpu_clock_gating_disable,
+    enable_gpu_acp,
+    disable_gpu_coherency,
+    gpu_soft_stop_disable,
+    gpu_reset_dump,
+    gpu_mmu_fault_panic,
+    gpu_irq_mask_set,
+
+    // Display
+    lcm_settings,
+    panel<"nt35695_fhd_cmd">,
+    panel<"s6e3ha6_wqhd_cmd">,
+    panel<"r63419_wqhd_cmd">,
+    panel_id_check_skip,
+    seamless_logo_disable,
+    esd_check_disable,
+    dsi_lane_rate_set<1500>,
+    dsi_clk_continuous,
+    dsi_ssc_disable,
+    dsi_ulps_disable,
+    dsi1_disable,
+    bl_boot_level_set,
+    bl_fixed_50,
+    bl_pwm_20khz,
+    cabc_disable,
+    disp_idle_disable,
+    disp_partial_disable,
+    te_ignore,
+    disp_underrun_red,
+    disp_underrun_panic,
+    disp_frame_trace,
+    dsi_bist_boot,
+    boot_logo_disable,
+    pq_bypass,
+
+    // LPM: low power
+    suspend_disable,
+    suspend_with_usb_allow,
+    console_suspend_disable,
+    pm_print_times,
+    pm_async_disable,
+    pm_test_set,
+    wakelock_log,
+    wake_reason_log,
+    wake_modem_mask,
+    soc_idle_disable,
+    clk26m_keep,
+    idle_self_refresh_disable,
+    vcore_lp_disable,
+    xo_lp_disable,
+    sleep_count_log,
+    spm_firmware_skip,
+    clkgate_bus_disable,
+    clkgate_disp_disable,
+
+    // TOOL: logs, trace and bring-up
+    earlycon_enable,
+    uart_shell_set,
+    uart_baud_921600,
+    loader_log_verbose,
+    log_store_enable,
+    boot_reason_print,
+    boot_profile_enable,
+    adb_early_start,
+    jtag_pins_enable,
+    last_pc_print,
+    etm_enable<8>,
+    etb_enable,
+    perf_stat_events,
+    pmu_idle_keep,
+    conn_log_enable,
+};
+
+}  // namespace
+
+constinit const hwknobs_plat px2312 = version_0<rows>("px2312");
