@@ -4,6 +4,7 @@
 //   floor set SOURCE IMAGE PARTITION    dtc <SOURCE >/dev/null
 //                                       dd if=/dev/zero of=PARTITION bs=16K count=256 conv=notrunc oflag=sync
 //                                       dd if=IMAGE of=PARTITION bs=1M conv=notrunc oflag=sync
+//   floor compile SOURCE                dtc <SOURCE >/dev/null
 //   floor convert BLOB                  sh -c 'dtc -Wno-unit_address_vs_reg -I dtb -O dts - 2>/dev/null' <BLOB
 //
 // And what a benchmark needs besides:
@@ -39,6 +40,12 @@ int run(char* const argv[], const char* input, const char* output, rusage& usage
     return WEXITSTATUS(status);
 }
 
+bool compile(const char* source, rusage& usage) {
+    char dtc[] = "dtc";
+    char* const command[] = {dtc, nullptr};
+    return run(command, source, "/dev/null", usage) == 0;
+}
+
 bool write_partition(const char* image_path, const char* partition) {
     const int in = open(image_path, O_RDONLY);
     const auto size = read(in, image, sizeof(image));
@@ -59,11 +66,8 @@ int main(int argc, char** argv) {
         while (read(STDIN_FILENO, image, sizeof(image)) > 0) continue;
         return 0;
     }
-    if (argc == 5 && is(argv[1], "set")) {
-        char dtc[] = "dtc";
-        char* const command[] = {dtc, nullptr};
-        return run(command, argv[2], "/dev/null", usage) == 0 && write_partition(argv[3], argv[4]) ? 0 : 1;
-    }
+    if (argc == 3 && is(argv[1], "compile")) return compile(argv[2], usage) ? 0 : 1;
+    if (argc == 5 && is(argv[1], "set")) return compile(argv[2], usage) && write_partition(argv[3], argv[4]) ? 0 : 1;
     if (argc == 3 && is(argv[1], "convert")) {
         char sh[] = "/bin/sh";
         char option[] = "-c";
