@@ -4,8 +4,11 @@
 #include "hwknobs_main/options.h"
 #include "hwknobs_plat/platform.h"
 
+#include <fmt/format.h>
+
 #include <algorithm>
 #include <array>
+#include <charconv>
 #include <cstdio>
 #include <string>
 #include <string_view>
@@ -93,28 +96,41 @@ std::vector<row_id> sorted_by_id(std::span<const hwknobs_config> configs) {
     return rows;
 }
 
-// Prints the lines of a listing with ids. They are put together by hand: printf() would take longer than all the rest.
+struct listing_row {
+    std::string_view id;
+    std::string_view desc;
+    std::string_view name;
+    std::string_view arg;
+    std::string_view group;
+};
+
+// "%3s %-72s %-40s %-12s %-8s\n". A listing is hundreds of lines of one layout: where all texts fit, they are copied
+// into a line of blanks, as printf() would take longer than all the rest. Nothing is cut: a long text pushes the rest
+// of its line to the right. Lines go to stdio's buffer one by one: to collect a whole listing costs more in fresh pages
+// of memory than it saves in writes.
 class row_printer {
 public:
-    void print(std::string_view id, std::string_view desc, std::string_view name, std::string_view arg,
-               std::string_view group) {
-        line_.assign(id.size() < 3 ? 3 - id.size() : 0, ' ') += id;
-        append(desc, 72);
-        append(name, 40);
-        append(arg, 12);
-        append(group, 8);
-        line_ += '\n';
+    void print(const listing_row& row) {
+        if (row.id.size() > 3 || row.desc.size() > 72 || row.name.size() > 40 || row.arg.size() > 12 ||
+            row.group.size() > 8) {
+            std::puts(fmt::format("{:>3} {:<72} {:<40} {:<12} {:<8}", row.id, row.desc, row.name, row.arg, row.group)
+                          .c_str());
+            return;
+        }
+        line_.fill(' ');
+        put(3 - row.id.size(), row.id);
+        put(4, row.desc);
+        put(77, row.name);
+        put(118, row.arg);
+        put(131, row.group);
+        line_.back() = '\n';
         std::fwrite(line_.data(), 1, line_.size(), stdout);
     }
 
 private:
-    // Nothing is cut: a long text pushes the rest of its line to the right.
-    void append(std::string_view text, std::size_t width) {
-        (line_ += ' ') += text;
-        if (text.size() < width) line_.append(width - text.size(), ' ');
-    }
+    void put(std::size_t column, std::string_view text) { std::ranges::copy(text, line_.begin() + column); }
 
-    std::string line_;
+    std::array<char, 140> line_;
 };
 
 // NOLINTNEXTLINE(bugprone-reserved-identifier)
@@ -122,13 +138,18 @@ void __print_list(const hwknobs_plat* plat, u64 mask) {
     const auto configs = hwknobs_configs(*plat);
     std::printf("XPR config list V2 (arch %s) %s\n", plat->name, list_summary(configs.size(), mask).data());
     row_printer rows;
-    rows.print("ID", "DESC", "NAME", "ARG", "GROUP");
+    rows.print({"ID", "DESC", "NAME", "ARG", "GROUP"});
     std::puts(std::string(144, '-').c_str());
     for (const row_id& row : sorted_by_id(configs)) {
         const hwknobs_config& config = configs[static_cast<std::size_t>(row.index)];
         if (mask != 0 && (mask & group_bit(config.group)) == 0) continue;
-        rows.print(std::to_string(row.id), config.desc, config.name, config.takes_argument() ? "required" : "",
-                   get_hwknobs_group_name(config.group));
+        std::array<char, 12> id;
+        const char* const id_end = std::to_chars(id.begin(), id.end(), row.id).ptr;
+        rows.print({.id = {id.data(), id_end},
+                    .desc = config.desc,
+                    .name = config.name,
+                    .arg = config.takes_argument() ? "required" : "",
+                    .group = get_hwknobs_group_name(config.group)});
     }
 }
 
