@@ -66,10 +66,20 @@ std::optional<setting_head> read_head(const unique_fd& file) {
     return head;
 }
 
-std::string convert_to_source(const char* blob) {
-    const malloced<char> dts(hwknobs_blob_to_dts(blob, blob_capacity));
-    if (dts == nullptr) error("No hwknobs device tree blob\n");
-    return dts.get();
+struct stored_overlay {
+    malloced<char> source;
+    bool is_stored;  ///< the blob area holds a tree
+};
+
+// Closes the partition before it runs the compiler.
+stored_overlay read_overlay(unique_fd file, const char* path) {
+    // The whole reserved area: the compiler finds the blob's real size in the blob.
+    const auto blob = std::make_unique_for_overwrite<char[]>(blob_capacity);
+    read_at(file, path, offsetof(partition_layout, blob), blob.get(), blob_capacity);
+    file.reset();
+    malloced<char> source(hwknobs_blob_to_dts(blob.get(), blob_capacity));
+    if (source == nullptr) error("No hwknobs device tree blob\n");
+    return {std::move(source), is_flattened_tree({blob.get(), blob_capacity})};
 }
 
 }  // namespace
@@ -88,12 +98,9 @@ std::unique_ptr<hwknobs_partimage> hwknobs_partimage::load(const char* partition
     plenv_block block;
     read_at(file, partition, offsetof(partition_layout, plenv), &block, sizeof(block));
     plenv_map plenv = hwknobs_plenv_parse(block);
-    // The whole reserved area: the compiler finds the blob's real size in the blob.
-    const auto blob = std::make_unique_for_overwrite<char[]>(blob_capacity);
-    read_at(file, partition, offsetof(partition_layout, blob), blob.get(), blob_capacity);
-    file.reset();
-    std::string dts = convert_to_source(blob.get());
-    const bool overlay_unreadable = dts.empty() && is_flattened_tree({blob.get(), blob_capacity});
+    const stored_overlay overlay = read_overlay(std::move(file), partition);
+    std::string dts = overlay.source.get();
+    const bool overlay_unreadable = overlay.is_stored && dts.empty();
 
     debug("%s: hwknobs info name:%s plat:%s\n", "load", head->name.c_str(), head->plat.c_str());
     return std::make_unique<hwknobs_partimage>(hwknobs_partimage{head->name, hwknobs_get_plat(head->plat.c_str()),
