@@ -63,17 +63,18 @@ bool config_item::arg_copy(const config_item& in) {
     return true;
 }
 
-std::string config_item::desc() const {
+std::string config_item::argument_text() const {
     switch (arg_kind) {
-        case config_arg_kind::none: return fmt::format("Activate  {}({}) {}", name, number, cfg->desc);
-        case config_arg_kind::int32:
-            return fmt::format("Activate  {}({})[arg={}] {}", name, number, std::get<std::int32_t>(arg), cfg->desc);
-        case config_arg_kind::uint32:
-            return fmt::format("Activate  {}({})[arg={}] {}", name, number, std::get<std::uint32_t>(arg), cfg->desc);
-        case config_arg_kind::string:
-            return fmt::format("Activate  {}({})[str={}] {}", name, number, std::get<std::string>(arg), cfg->desc);
+        case config_arg_kind::none: return "";
+        case config_arg_kind::int32: return fmt::format("[arg={}]", std::get<std::int32_t>(arg));
+        case config_arg_kind::uint32: return fmt::format("[arg={}]", std::get<std::uint32_t>(arg));
+        case config_arg_kind::string: return fmt::format("[str={}]", std::get<std::string>(arg));
     }
     error("Unsupport type code %s", arg_type_get_string().c_str());
+}
+
+std::string config_item::desc() const {
+    return fmt::format("Activate  {}({}){} {}", name, number, argument_text(), cfg->desc);
 }
 
 void config_item::format_validate() {

@@ -53,5 +53,6 @@ struct config_item {
 
 private:
     void format_validate();
+    std::string argument_text() const;
     std::string render_argument(char conversion) const;
 };
