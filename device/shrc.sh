@@ -1,3 +1,4 @@
+# shellcheck shell=sh
 # Read by the interactive shell inside a device ("device shell").
 PS1='px:$PWD $ '
 

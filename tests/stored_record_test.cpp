@@ -1,6 +1,6 @@
 // What the reader finds in the source text of a stored setting.
-#include "fatal.h"
 #include "hwknobs_record/stored_record.h"
+#include "fatal.h"
 #include "rows.h"
 
 #include <fmt/format.h>
