@@ -146,7 +146,7 @@ std::string list_labels(const json& catalogue) {
                 if (const std::size_t end = set.find_first_of(" /"); set.starts_with('&'))
                     labels[set.substr(1, end - 1)].insert(set.substr(end + 1));
         }
-        out += fmt::format("\n## {}\n\n{} labels:\n\n| label | properties |\n| --- | --- |\n",
+        out += fmt::format("\n## {}\n\nLabels: {}\n\n| label | properties |\n| --- | --- |\n",
                            platform["name"].get<std::string>(), labels.size());
         for (const auto& [label, properties] : labels)
             out += fmt::format("| `{}` | {} |\n", label, fmt::join(properties, ", "));

@@ -76,7 +76,8 @@ function makeRow(knob, number, at) {
 function showEffect(row, judged) {
   const {key, value, fragment} = row.knob;
   const fill = text => judged.refused === undefined ? render(text, judged.shown) : text;
-  row.sets.textContent = [...(key ? [`${key}=${fill(value)}`] : []), ...(fragment ? [fill(fragment)] : [])].join("\n");
+  row.sets.replaceChildren(...(key ? [element("span", {className: "plenv"}, `${key}=${fill(value)}`)] : []),
+                           ...(fragment ? [element("span", {className: "overlay"}, fill(fragment))] : []));
 }
 
 function filter() {
