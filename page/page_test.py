@@ -38,8 +38,9 @@ class Page(unittest.TestCase):
         cls.device = folder + "/device"
         subprocess.run([ROOT / "device/device", "create", cls.device, "--plat-code", "8314"], check=True)
         options = webdriver.ChromeOptions()
-        for argument in ("headless", "window-size=1280,900", "no-sandbox", "disable-gpu", "disable-quic", "no-first-run", "disable-sync",
-                         "disable-background-networking", "disable-component-update", f"user-data-dir={folder}/user"):
+        for argument in ("headless", "window-size=1280,900", "no-sandbox", "disable-gpu", "disable-quic", "no-first-run",
+                         "disable-sync", "disable-background-networking", "disable-component-update",
+                         f"user-data-dir={folder}/user"):
             options.add_argument("--" + argument)
         options.set_capability("goog:loggingPrefs", {"browser": "ALL"})
         cls.browser = webdriver.Chrome(service=webdriver.chrome.service.Service("/usr/bin/chromedriver"), options=options)
@@ -135,19 +136,24 @@ class Page(unittest.TestCase):
     def check_verdict(self, plat, *selected):
         """The page's verdict on a selection is the tool's, and so is what it would set."""
         self.open(plat, *selected, ticked=1)
-        line = self.line()
+        line = self.line().replace("hwknobs ", f"hwknobs --plat={plat} ", 1)
         refused = self.texts("#notes .refused")
-        printed = self.on_device(line.replace("hwknobs ", f"hwknobs --plat={plat} ", 1))
+        first = "".join(refused[:1])
+        printed = self.on_device(line)
         with self.subTest(line=line[:200], refused=refused, printed=printed[:300]):
             if printed.startswith("Error in file"):
-                self.assertIn(printed.splitlines()[-1].removeprefix("\t> "), refused[0])
+                self.assertIn(printed.splitlines()[-1].removeprefix("\t> "), first)
             elif "ERROR: " in printed:
-                self.assertIn(f'refused with "{printed.rpartition("ERROR: ")[2].strip()}', refused[0])
+                self.assertIn(f'refused with "{printed.rpartition("ERROR: ")[2].strip()}', first)
             else:
                 self.assertEqual((refused, printed.splitlines()[-1]), ([], "config set ok"))
+                if " setname " not in line:
+                    return refused
                 document = self.on_device(line.replace("setname", "xmlconfig-show"))
-                for part in "\n".join(self.texts("#knobs .sets")).splitlines() if "setname" in line else []:
-                    self.assertIn(part if part[0] == "&" else '<item key="{}" value="{}"/>'.format(*part.split("=")), document)
+                source = document[document.index("/plugin/;\n") + 10:document.index("]]>")]
+                self.assertEqual("".join(text + "\n" for text in self.texts("#knobs .overlay")), source)
+                self.assertEqual(dict(text.split("=") for text in self.texts("#knobs .plenv")),
+                                 dict(re.findall('<item key="(.*)" value="(.*)"/>', document)))
         return refused
 
     def test_verdicts_are_those_of_the_tool(self):
@@ -164,6 +170,11 @@ class Page(unittest.TestCase):
         self.check_verdict("px1104", (number, ""))
         self.check_verdict("px1104", (number, old["allowed"][0]))
         self.assertTrue(self.check_verdict("px0000", 1, (4, 5)))
+
+    def test_all_knobs_of_a_platform_at_once(self):
+        for plat in self.catalogue["platforms"]:
+            self.check_verdict(plat["name"], *[(knob["name"] if plat["named"] else number, (knob.get("allowed") or "1")[0])
+                                               for number, knob in self.knobs(plat["name"])])
 
     def test_bootloader_block(self):
         room = self.catalogue["plenv_capacity"] - len("perf_event") - 2
