@@ -32,6 +32,7 @@ enum class rule {
     row_without_argument_has_no_conversion,
     template_is_valid,
     argument_row_has_no_percent_sign,
+    unsigned_argument_is_hexadecimal,
     allowed_values_are_read_back,
     blank_follows_bare_string_conversion,
     no_string_follows_a_free_one,
@@ -160,6 +161,20 @@ constexpr rule check_free_strings(std::string_view fragment) {
     return ends_bare ? rule::blank_follows_bare_string_conversion : rule::none;
 }
 
+// One way to print a number without a sign, in cells as in bootloader values: 0x%x.
+constexpr bool unsigned_is_hexadecimal(std::string_view text) {
+    template_scanner scanner(text);
+    std::string_view before;
+    while (const auto piece = scanner.next()) {
+        if (piece->kind == template_piece_kind::conversion) {
+            const char letter = piece->text.front();
+            if (letter == 'u' || (letter == 'x' && !before.ends_with("0x"))) return false;
+        }
+        before = piece->text;
+    }
+    return true;
+}
+
 constexpr bool takes_nothing(const char* text) {
     if (text == nullptr) return true;
     const char* at = text;
@@ -181,6 +196,7 @@ constexpr rule check_templates(const hwknobs_config& row) {
     if (facts.check.fault != template_fault::none) return rule::template_is_valid;
     if (contains(text, "%%")) return rule::argument_row_has_no_percent_sign;
     if (facts.check.kind == config_arg_kind::none) return rule::argument_row_has_a_conversion;
+    if (!unsigned_is_hexadecimal(text)) return rule::unsigned_argument_is_hexadecimal;
     if (!facts.values_are_letters) return rule::allowed_values_are_read_back;
     return check_free_strings(text_of(fragment));
 }

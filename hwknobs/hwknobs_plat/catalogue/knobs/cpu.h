@@ -45,7 +45,7 @@ inline constexpr knob cpu_fix = {
 template <unsigned MinMhz, unsigned MaxMhz>
 inline constexpr knob cpu_cap_set = {
     CPU, "cpu_cap_set", text<"Cap CPU cluster at a frequency in MHz ({}-{})", MinMhz, MaxMhz>,
-    dt_arg("&cpufreq_cpu { max-frequency-mhz = <%u>; };")};
+    dt_arg("&cpufreq_cpu { max-frequency-mhz = <0x%x>; };")};
 
 inline constexpr knob cpu_fix_max = {
     CPU, "cpu_fix_max", "Fix all clusters at their highest operating point", dt(R"(&cpufreq { fixed-opp = "max"; };)")};
@@ -60,7 +60,7 @@ inline constexpr knob cluster_fix = {
 template <unsigned MinMhz, unsigned MaxMhz>
 inline constexpr knob big_cap_set = {
     CPU, "big_cap_set", text<"Cap big cluster at a frequency in MHz ({}-{})", MinMhz, MaxMhz>,
-    dt_arg("&cpufreq_big { max-frequency-mhz = <%u>; };")};
+    dt_arg("&cpufreq_big { max-frequency-mhz = <0x%x>; };")};
 
 inline constexpr knob big_turbo_disable = {
     CPU, "big_turbo_disable", "Disable turbo operating points of big cluster", dt("&cpufreq_big { turbo-disable; };")};
@@ -177,7 +177,7 @@ inline constexpr knob firmware_erratum_skip = {
     env("noerr", text<"{}", Number>)};
 
 inline constexpr knob erratum_fw_skip = {
-    CPU, "erratum_fw_skip", "Skip one secure monitor erratum workaround by its number", env_arg("noerr", "%u")};
+    CPU, "erratum_fw_skip", "Skip one secure monitor erratum workaround by its number", env_arg("noerr", "0x%x")};
 inline constexpr knob mitigations_off = {
     CPU, "mitigations_off", "Disable all CPU speculation mitigations", dt(R"(&chosen { mitigations = "off"; };)")};
 inline constexpr knob kpti_disable = {

@@ -34,7 +34,7 @@ inline constexpr knob refresh_idle_drop_disable = {
 template <unsigned MaxMbps>
 inline constexpr knob dsi_lane_rate_set = {
     DISPLAY, "dsi_lane_rate_set", text<"Set DSI lane rate in Mbps (80-{})", MaxMbps>,
-    dt_arg("&dsi0 { lane-rate-mbps = <%u>; };")};
+    dt_arg("&dsi0 { lane-rate-mbps = <0x%x>; };")};
 
 inline constexpr knob dsi_clk_continuous = {
     DISPLAY, "dsi_clk_continuous", "Keep DSI clock lane in high-speed mode between packets",
@@ -52,7 +52,7 @@ inline constexpr knob dp_rate_hbr = {
     DISPLAY, "dp_rate_hbr", "Limit DisplayPort link rate to HBR (2.7 Gbps)",
     dt("&dp_tx { max-linkrate-mhz = <2700>; };")};
 inline constexpr knob bl_boot_level_set = {
-    DISPLAY, "bl_boot_level_set", "Set boot loader brightness level (0-255)", env_arg("bl_lvl", "%u")};
+    DISPLAY, "bl_boot_level_set", "Set boot loader brightness level (0-255)", env_arg("bl_lvl", "0x%x")};
 inline constexpr knob bl_fixed_50 = {
     DISPLAY, "bl_fixed_50", "Fix panel brightness at 50 percent",
     dt("&backlight { fixed-brightness-percent = <50>; };")};

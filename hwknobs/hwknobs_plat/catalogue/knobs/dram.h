@@ -60,7 +60,7 @@ inline constexpr knob dram_refresh_all_bank = {
 template <unsigned MaxCode>
 inline constexpr knob dram_mr4_override = {
     DRAM, "dram_mr4_override", text<"Override MR4 refresh rate code read from DRAM (0-{})", MaxCode>,
-    dt_arg("&dramc { mr4-override = <%u>; };")};
+    dt_arg("&dramc { mr4-override = <0x%x>; };")};
 
 inline constexpr knob dram_rfm_disable = {
     DRAM, "dram_rfm_disable", "Disable DRAM refresh management (RFM)", dt(R"(&dramc { rfm-mode = "off"; };)")};
@@ -78,10 +78,10 @@ inline constexpr knob dram_odt_disable = {
     DRAM, "dram_odt_disable", "Disable DQ on-die termination (ODT) of DRAM", env("ddr_odt", "off")};
 inline constexpr knob dram_odt_set = {
     DRAM, "dram_odt_set", "Set DQ on-die termination of DRAM (40, 48, 60, 80, 120 or 240 ohms)",
-    env_arg("ddr_odt", "%u")};
+    env_arg("ddr_odt", "0x%x")};
 inline constexpr knob dram_drive_set = {
     DRAM, "dram_drive_set", "Set DRAM output driver impedance (40, 48, 60, 80, 120 or 240 ohms)",
-    env_arg("ddr_drv", "%u")};
+    env_arg("ddr_drv", "0x%x")};
 inline constexpr knob dram_dbi_disable = {
     DRAM, "dram_dbi_disable", "Disable DRAM data bus inversion (DBI)", env("ddr_dbi", "off")};
 inline constexpr knob dram_link_ecc_disable = {

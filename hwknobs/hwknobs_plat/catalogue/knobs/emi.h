@@ -9,7 +9,7 @@ inline constexpr knob emi_bwmon_enable = {
     EMI, "emi_bwmon_enable", "Enable EMI bandwidth monitor for each master", dt(R"(&emi_bwmon { status = "okay"; };)")};
 inline constexpr knob emi_bwmon_window_set = {
     EMI, "emi_bwmon_window_set", "Set EMI bandwidth monitor window in ms (1-1000)",
-    dt_arg("&emi_bwmon { window-ms = <%u>; };")};
+    dt_arg("&emi_bwmon { window-ms = <0x%x>; };")};
 inline constexpr knob emi_hash_disable = {
     EMI, "emi_hash_disable", "Disable EMI address hash across channels and banks", env("emi_hash", "0")};
 inline constexpr knob emi_mpu_panic = {

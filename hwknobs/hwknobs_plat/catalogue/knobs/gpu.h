@@ -27,7 +27,7 @@ inline constexpr knob gpu_plus_25mv = {
     dt("&gpufreq { voltage-offset-microvolt = <25000>; };")};
 inline constexpr knob gpu_dvfs_period_set = {
     GPU, "gpu_dvfs_period_set", "Set GPU load sampling period for DVFS in ms (1-1000)",
-    dt_arg("&mali { dvfs-period-ms = <%u>; };")};
+    dt_arg("&mali { dvfs-period-ms = <0x%x>; };")};
 inline constexpr knob gpu_throttle_disable = {
     GPU, "gpu_throttle_disable", "Disable thermal throttling of the GPU",
     dt("&gpufreq { thermal-throttle-disable; };")};
@@ -48,6 +48,9 @@ inline constexpr knob gpu_policy_always_on = {
 inline constexpr knob gpu_policy_coarse_demand = {
     GPU, "gpu_policy_coarse_demand", "Use coarse_demand GPU power policy",
     dt(R"(&mali { power-policy = "coarse_demand"; };)")};
+inline constexpr knob gpu_policy_adaptive_set = {
+    GPU, "gpu_policy_adaptive_set", "Set adaptive GPU power policy level (0-3, 0 for off)",
+    dt_arg("&mali { adaptive-power-policy = <%d>; };")};
 inline constexpr knob gpu_one_core = {
     GPU, "gpu_one_core", "Run GPU with one shader core", dt("&mali { core-mask = <0x1>; };")};
 inline constexpr knob gpu_clock_gating_disable = {
@@ -67,7 +70,7 @@ inline constexpr knob gpu_serialize_jobs = {
     GPU, "gpu_serialize_jobs", "Serialize GPU jobs over all job slots", dt(R"(&mali { serialize-jobs = "full"; };)")};
 inline constexpr knob gpu_csf_fw_timeout_set = {
     GPU, "gpu_csf_fw_timeout_set", "Set GPU firmware response timeout in ms (100-60000)",
-    dt_arg("&mali { firmware-timeout-ms = <%u>; };")};
+    dt_arg("&mali { firmware-timeout-ms = <0x%x>; };")};
 inline constexpr knob gpu_csf_progress_disable = {
     GPU, "gpu_csf_progress_disable", "Disable progress timeout of GPU command streams",
     dt("&mali { progress-timeout = <0>; };")};
@@ -77,9 +80,9 @@ inline constexpr knob gpu_reset_dump = {
     GPU, "gpu_reset_dump", "Dump GPU registers to kernel log before GPU reset", dt("&mali { reset-dump; };")};
 inline constexpr knob gpu_mmu_fault_panic = {
     GPU, "gpu_mmu_fault_panic", "Panic on GPU MMU fault", dt("&mali { mmu-fault-panic; };")};
-inline constexpr knob gpu_irq_mask_set = {
-    GPU, "gpu_irq_mask_set", "Set GPU interrupt mask register (0x0-0xffffffff)",
-    dt_arg("&mali { gpu-irq-mask = <0x%x>; };")};
+inline constexpr knob gpu_exception_mask_set = {
+    GPU, "gpu_exception_mask_set", "Set mask of GPU exceptions to report (0x0-0xffffffff)",
+    dt_arg("&mali { exception-mask = <0x%x>; };")};
 inline constexpr knob gpu_job_trace = {
     GPU, "gpu_job_trace", "Trace start and end of GPU jobs in ftrace", dt("&mali { job-trace-enable; };")};
 inline constexpr knob gpu_counters_enable = {

@@ -26,7 +26,7 @@ inline constexpr knob kfence_disable = {
     KERNEL, "kfence_disable", "Disable KFENCE", dt(R"(&chosen { kfence-status = "disabled"; };)")};
 inline constexpr knob kfence_interval_set = {
     KERNEL, "kfence_interval_set", "Set KFENCE sample interval in ms (0 for off)",
-    dt_arg("&chosen { kfence-sample-interval = <%u>; };")};
+    dt_arg("&chosen { kfence-sample-interval = <0x%x>; };")};
 inline constexpr knob slub_debug_enable = {
     KERNEL, "slub_debug_enable", "Enable SLUB sanity checks, red zones and poisoning",
     dt(R"(&chosen { slub-debug = "FZP"; };)")};
@@ -52,7 +52,7 @@ inline constexpr knob lockdep_enable = {
     KERNEL, "lockdep_enable", "Enable lock dependency proving", dt(R"(&chosen { prove-locking-status = "okay"; };)")};
 inline constexpr knob hung_task_timeout_set = {
     KERNEL, "hung_task_timeout_set", "Set hung task timeout in seconds (0 for off)",
-    dt_arg("&chosen { hung-task-timeout-sec = <%u>; };")};
+    dt_arg("&chosen { hung-task-timeout-sec = <0x%x>; };")};
 inline constexpr knob hung_task_panic_enable = {
     KERNEL, "hung_task_panic_enable", "Panic when a hung task is found", dt("&chosen { hung-task-panic = <1>; };")};
 inline constexpr knob softlockup_panic_enable = {
@@ -69,7 +69,7 @@ inline constexpr knob watchdog_percpu_kick_enable = {
     KERNEL, "watchdog_percpu_kick_enable", "Kick watchdog from every CPU to catch hard lockups",
     dt("&watchdog { percpu-kick; };")};
 inline constexpr knob console_level_set = {
-    KERNEL, "console_level_set", "Set console log level (0-8)", dt_arg("&chosen { console-loglevel = <%u>; };")};
+    KERNEL, "console_level_set", "Set console log level (0-8)", dt_arg("&chosen { console-loglevel = <0x%x>; };")};
 inline constexpr knob uart_console_disable = {
     KERNEL, "uart_console_disable", "Disable UART log in boot loader and kernel",
     both("uart_log", "off", R"(&chosen { uart-console-status = "disabled"; };)")};
@@ -102,7 +102,7 @@ inline constexpr knob trace_buf_16m = {
     dt("&chosen { trace-buf-size-kb = <16384>; };")};
 inline constexpr knob trace_buf_size_set = {
     KERNEL, "trace_buf_size_set", "Set ftrace buffer size per CPU in KB (4-65536)",
-    dt_arg("&chosen { trace-buf-size-kb = <%u>; };")};
+    dt_arg("&chosen { trace-buf-size-kb = <0x%x>; };")};
 inline constexpr knob trace_sched_irq_boot = {
     KERNEL, "trace_sched_irq_boot", "Record scheduler and interrupt events from boot",
     dt(R"(&chosen { trace-event = "sched,irq,ipi"; };)")};

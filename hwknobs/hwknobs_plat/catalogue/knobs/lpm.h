@@ -27,7 +27,7 @@ inline constexpr knob pm_test_set = {
     dt_arg(R"(&chosen { pm-test = "%s[freezer,devices,platform,processors,core]"; };)")};
 inline constexpr knob dpm_watchdog_set = {
     LPM, "dpm_watchdog_set", "Set device suspend watchdog timeout in seconds (1-600)",
-    dt_arg("&chosen { dpm-watchdog-timeout-sec = <%u>; };")};
+    dt_arg("&chosen { dpm-watchdog-timeout-sec = <0x%x>; };")};
 inline constexpr knob wakelock_log = {
     LPM, "wakelock_log", "Print active wake locks when suspend is blocked", dt("&chosen { wake-lock-log; };")};
 inline constexpr knob wake_reason_log = {

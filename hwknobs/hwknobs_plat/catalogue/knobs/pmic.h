@@ -33,7 +33,7 @@ inline constexpr knob pmic_oc_log_only = {
     dt(R"(&pmic { over-current-action = "log"; };)")};
 inline constexpr knob buck_vgpu11_oc_error_set = {
     PMIC, "buck_vgpu11_oc_error_set", "Set over-current error limit of buck vgpu11 in uA",
-    dt_arg("&vgpu11 { regulator-oc-error-microamp = <%u>; };")};
+    dt_arg("&vgpu11 { regulator-oc-error-microamp = <0x%x>; };")};
 inline constexpr knob pmic_uvlo_2600mv = {
     PMIC, "pmic_uvlo_2600mv", "Set PMIC under-voltage lockout to 2600 mV", env("uvlo_mv", "2600")};
 inline constexpr knob pmic_thermal_shutdown_disable = {
@@ -47,7 +47,7 @@ inline constexpr knob pwrkey_reset_time_8s = {
     dt("&pmic_keys { power-off-time-sec = <8>; };")};
 inline constexpr knob pwrkey_reset_time_set = {
     PMIC, "pwrkey_reset_time_set", "Set long-press reset time of the power key (5, 8, 11 or 14 s)",
-    dt_arg("&pmic_keys { power-off-time-sec = <%u>; };")};
+    dt_arg("&pmic_keys { power-off-time-sec = <0x%x>; };")};
 inline constexpr knob pmic_reset_cold = {
     PMIC, "pmic_reset_cold", "Power-cycle all rails on reboot", dt(R"(&pmic { reset-type = "cold"; };)")};
 inline constexpr knob pmic_reset_warm = {
@@ -76,7 +76,7 @@ inline constexpr knob chg_input_500ma = {
     dt("&charger { input-current-limit-microamp = <500000>; };")};
 inline constexpr knob chg_current_set = {
     PMIC, "chg_current_set", "Set charge current limit in uA (100000-3000000)",
-    dt_arg("&charger { constant-charge-current-max-microamp = <%u>; };")};
+    dt_arg("&charger { constant-charge-current-max-microamp = <0x%x>; };")};
 inline constexpr knob chg_jeita_disable = {
     PMIC, "chg_jeita_disable", "Ignore JEITA temperature ranges when charging", dt(R"(&charger { jeita = "off"; };)")};
 inline constexpr knob gauge_soc_50 = {

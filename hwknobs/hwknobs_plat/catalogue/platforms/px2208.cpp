@@ -133,7 +133,7 @@ constexpr row rows[] = {
     gpu_soft_stop_disable,
     gpu_reset_dump,
     gpu_mmu_fault_panic,
-    gpu_irq_mask_set,
+    gpu_exception_mask_set,
 
     // Display
     lcm_settings,

@@ -212,7 +212,7 @@ constexpr row rows[] = {
     gpu_serialize_jobs,
     gpu_reset_dump,
     gpu_mmu_fault_panic,
-    gpu_irq_mask_set,
+    gpu_exception_mask_set,
     gpu_job_trace,
     gpu_counters_enable,
     gpu_afbc_disable,

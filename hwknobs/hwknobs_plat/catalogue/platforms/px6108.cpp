@@ -167,7 +167,6 @@ constexpr row rows[] = {
 
     // GPU
     {143, gpu_fix<880>},
-    {144, gpu_fix<560>},
     {145, gpu_fix<320>},
     {146, gpu_max<790>},
     {147, gpu_dvfs_disable},
@@ -175,6 +174,7 @@ constexpr row rows[] = {
     {149, gpu_disable},
     {150, gpu_policy_always_on},
     {151, gpu_policy_coarse_demand},
+    {144, gpu_policy_adaptive_set},
     {152, gpu_clock_gating_disable},
     {153, enable_gpu_acp},
     {154, disable_gpu_coherency},
@@ -182,7 +182,7 @@ constexpr row rows[] = {
     {156, gpu_serialize_jobs},
     {157, gpu_reset_dump},
     {158, gpu_mmu_fault_panic},
-    {159, gpu_irq_mask_set},
+    {159, gpu_exception_mask_set},
     {160, gpu_job_trace},
     {161, gpu_counters_enable},
     {162, gpu_afbc_disable},

@@ -174,7 +174,6 @@ constexpr row rows[] = {
 
     // GPU
     {153, gpu_fix<900>},
-    {154, gpu_fix<590>},
     {155, gpu_fix<350>},
     {156, gpu_max<815>},
     {157, gpu_dvfs_disable},
@@ -183,6 +182,7 @@ constexpr row rows[] = {
     {160, gpu_disable},
     {161, gpu_policy_always_on},
     {162, gpu_policy_coarse_demand},
+    {154, gpu_policy_adaptive_set},
     {163, gpu_one_core},
     {164, gpu_clock_gating_disable},
     {166, enable_gpu_acp},
@@ -191,7 +191,7 @@ constexpr row rows[] = {
     {169, gpu_serialize_jobs},
     {170, gpu_reset_dump},
     {172, gpu_mmu_fault_panic},
-    {173, gpu_irq_mask_set},
+    {173, gpu_exception_mask_set},
     {174, gpu_job_trace},
     {175, gpu_counters_enable},
     {176, gpu_afbc_disable},

@@ -192,7 +192,6 @@ constexpr row rows[] = {
 
     // GPU
     {170, gpu_fix<890>},
-    {171, gpu_fix<610>},
     {172, gpu_fix<370>},
     {173, gpu_max<820>},
     {174, gpu_min<610>},
@@ -202,6 +201,7 @@ constexpr row rows[] = {
     {179, gpu_disable},
     {180, gpu_policy_always_on},
     {181, gpu_policy_coarse_demand},
+    {171, gpu_policy_adaptive_set},
     {182, gpu_one_core},
     {183, gpu_clock_gating_disable},
     {185, enable_gpu_acp},
@@ -211,7 +211,7 @@ constexpr row rows[] = {
     {190, gpu_serialize_jobs},
     {191, gpu_reset_dump},
     {193, gpu_mmu_fault_panic},
-    {194, gpu_irq_mask_set},
+    {194, gpu_exception_mask_set},
     {195, gpu_job_trace},
     {196, gpu_counters_enable},
     {197, gpu_afbc_disable},

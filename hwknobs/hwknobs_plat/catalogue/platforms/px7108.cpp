@@ -183,7 +183,6 @@ constexpr row rows[] = {
 
     // GPU
     {161, gpu_fix<950>},
-    {162, gpu_fix<635>},
     {163, gpu_fix<380>},
     {164, gpu_max<860>},
     {165, gpu_min<635>},
@@ -193,6 +192,7 @@ constexpr row rows[] = {
     {169, gpu_disable},
     {170, gpu_policy_always_on},
     {171, gpu_policy_coarse_demand},
+    {162, gpu_policy_adaptive_set},
     {172, gpu_one_core},
     {173, gpu_clock_gating_disable},
     {174, gpu_sleep_disable},
@@ -202,7 +202,7 @@ constexpr row rows[] = {
     {178, gpu_csf_fw_core_dump},
     {179, gpu_reset_dump},
     {180, gpu_mmu_fault_panic},
-    {181, gpu_irq_mask_set},
+    {181, gpu_exception_mask_set},
     {182, gpu_counters_enable},
     {183, gpu_afbc_disable},
 

@@ -205,7 +205,6 @@ constexpr row rows[] = {
 
     // GPU
     {178, gpu_fix<1000>},
-    {179, gpu_fix<670>},
     {180, gpu_fix<400>},
     {181, gpu_max<905>},
     {182, gpu_min<670>},
@@ -217,6 +216,7 @@ constexpr row rows[] = {
     {189, gpu_power_on_from_boot},
     {190, gpu_policy_always_on},
     {191, gpu_policy_coarse_demand},
+    {179, gpu_policy_adaptive_set},
     {192, gpu_one_core},
     {193, gpu_clock_gating_disable},
     {194, gpu_sleep_disable},
@@ -227,7 +227,7 @@ constexpr row rows[] = {
     {199, gpu_csf_fw_core_dump},
     {200, gpu_reset_dump},
     {201, gpu_mmu_fault_panic},
-    {202, gpu_irq_mask_set},
+    {202, gpu_exception_mask_set},
     {203, gpu_counters_enable},
     {204, gpu_afbc_disable},
 

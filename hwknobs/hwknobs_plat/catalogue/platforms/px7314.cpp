@@ -212,7 +212,6 @@ constexpr row rows[] = {
 
     // GPU
     {185, gpu_fix<850>},
-    {186, gpu_fix<580>},
     {187, gpu_fix<350>},
     {188, gpu_max<775>},
     {189, gpu_min<580>},
@@ -225,6 +224,7 @@ constexpr row rows[] = {
     {196, gpu_power_on_from_boot},
     {197, gpu_policy_always_on},
     {198, gpu_policy_coarse_demand},
+    {186, gpu_policy_adaptive_set},
     {199, gpu_one_core},
     {200, gpu_clock_gating_disable},
     {201, gpu_sleep_disable},
@@ -235,7 +235,7 @@ constexpr row rows[] = {
     {206, gpu_csf_fw_core_dump},
     {207, gpu_reset_dump},
     {208, gpu_mmu_fault_panic},
-    {209, gpu_irq_mask_set},
+    {209, gpu_exception_mask_set},
     {210, gpu_counters_enable},
     {211, gpu_afbc_disable},
 

@@ -196,7 +196,6 @@ constexpr row rows[] = {
 
     // GPU
     {173, gpu_fix<1100>},
-    {174, gpu_fix<745>},
     {175, gpu_fix<450>},
     {176, gpu_max<1000>},
     {177, gpu_min<745>},
@@ -208,6 +207,7 @@ constexpr row rows[] = {
     {184, gpu_power_on_from_boot},
     {185, gpu_policy_always_on},
     {186, gpu_policy_coarse_demand},
+    {174, gpu_policy_adaptive_set},
     {187, gpu_one_core},
     {189, gpu_clock_gating_disable},
     {190, gpu_sleep_disable},
@@ -217,7 +217,7 @@ constexpr row rows[] = {
     {194, gpu_csf_fw_core_dump},
     {195, gpu_reset_dump},
     {196, gpu_mmu_fault_panic},
-    {197, gpu_irq_mask_set},
+    {197, gpu_exception_mask_set},
     {198, gpu_counters_enable},
     {199, gpu_afbc_disable},
 

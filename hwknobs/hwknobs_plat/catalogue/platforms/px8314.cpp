@@ -218,7 +218,6 @@ constexpr row rows[] = {
 
     // GPU
     {197, gpu_fix<1300>},
-    {198, gpu_fix<880>},
     {200, gpu_fix<530>},
     {201, gpu_max<1185>},
     {202, gpu_min<880>},
@@ -232,6 +231,7 @@ constexpr row rows[] = {
     {211, gpu_power_on_from_boot},
     {212, gpu_policy_always_on},
     {213, gpu_policy_coarse_demand},
+    {198, gpu_policy_adaptive_set},
     {214, gpu_one_core},
     {216, gpu_clock_gating_disable},
     {217, gpu_sleep_disable},
@@ -242,7 +242,7 @@ constexpr row rows[] = {
     {222, gpu_csf_fw_core_dump},
     {223, gpu_reset_dump},
     {224, gpu_mmu_fault_panic},
-    {225, gpu_irq_mask_set},
+    {225, gpu_exception_mask_set},
     {226, gpu_counters_enable},
     {227, gpu_afbc_disable},
 
