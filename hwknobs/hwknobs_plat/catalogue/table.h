@@ -1,6 +1,6 @@
 // How a platform's table is made of knobs. It is written as an array of rows, an id and a knob each; a table of
-// version 0, whose rows have no id, as an array of knobs. version_0<rows>() and version_2<rows>() make the platform of
-// it, and do not compile when a row breaks a rule.
+// version 0, whose rows have no id, name and group, as an array of knobs. version_0<rows>() and version_2<rows>() make
+// the platform of it, and do not compile when a row breaks a rule.
 #pragma once
 
 #include "hwknobs_plat/catalogue/knob.h"
@@ -13,34 +13,36 @@
 namespace catalogue {
 
 struct row {
-    std::uint32_t id = 0;
+    std::uint32_t id;
     knob what;
-
-    constexpr row(std::uint32_t row_id, const knob& row_knob) : id(row_id), what(row_knob) {}
-    constexpr row(const knob& row_knob) : what(row_knob) {}  // NOLINT(google-explicit-constructor)
 };
 
-constexpr hwknobs_config make_config(const row& row, bool identified) {
-    const auto& [group, name, desc, sets] = row.what;
-    return {.desc = desc,
-            .arg_type = sets.takes_argument ? 1U : 0U,
-            .pl_setting = sets.pl_setting,
-            .dt_fragment = sets.dt_fragment,
-            .id = row.id,
-            .group = identified ? group : hwknobs_group{},
-            .name = identified ? name : nullptr};
+constexpr const knob& knob_of(const knob& row) { return row; }
+constexpr const knob& knob_of(const row& row) { return row.what; }
+
+constexpr hwknobs_config make_config(const knob& row) {
+    return {.desc = row.desc,
+            .arg_type = row.sets.takes_argument ? 1U : 0U,
+            .pl_setting = row.sets.pl_setting,
+            .dt_fragment = row.sets.dt_fragment};
+}
+constexpr hwknobs_config make_config(const row& row) {
+    hwknobs_config config = make_config(row.what);
+    config.id = row.id;
+    config.group = row.what.group;
+    config.name = row.what.name;
+    return config;
 }
 
-// The rows as the tool knows them. Behind those of version 0 stands an empty one.
-template <const auto& Rows, std::uint32_t Version>
+// The rows as the tool knows them, followed by `EndRows` empty ones.
+template <const auto& Rows, std::size_t EndRows>
 consteval auto make_configs() {
-    constexpr bool has_ids = Version == version_with_ids;
-    std::array<hwknobs_config, std::size(Rows) + (has_ids ? 0 : 1)> configs{};
-    for (std::size_t i = 0; i < std::size(Rows); ++i) configs[i] = make_config(Rows[i], has_ids || Rows[i].id != 0);
+    std::array<hwknobs_config, std::size(Rows) + EndRows> configs{};
+    for (std::size_t i = 0; i < std::size(Rows); ++i) configs[i] = make_config(Rows[i]);
     return configs;
 }
-template <const auto& Rows, std::uint32_t Version>
-inline constexpr auto configs_of = make_configs<Rows, Version>();
+template <const auto& Rows, std::size_t EndRows>
+inline constexpr auto configs_of = make_configs<Rows, EndRows>();
 
 // Row, knob and rule stand in the compiler's message:
 // "row_keeps_rules<17, word<17>{"kmemleak_disable"}, catalogue::rule::desc_fits_72_columns>".
@@ -52,7 +54,7 @@ struct row_keeps_rules {
 
 template <const auto& Rows, int Row>
 consteval auto knob_name() {
-    constexpr std::string_view name = text_of(Rows[Row].what.name);
+    constexpr std::string_view name = text_of(knob_of(Rows[Row]).name);
     char chars[name.size() + 1]{};
     name.copy(chars, name.size());
     return word(chars);
@@ -72,14 +74,14 @@ consteval std::uint64_t hw_code_of(std::string_view name) {
 
 template <const auto& Rows>
 consteval hwknobs_plat version_0(const char* name) {
-    constexpr auto& configs = configs_of<Rows, 0>;
+    constexpr auto& configs = configs_of<Rows, 1>;
     static_assert(keeps_rules<Rows, check_version_0(std::span(configs).first(std::size(Rows)))>());
     return {hw_code_of(name), name, configs.data(), 0, 0};
 }
 
 template <const auto& Rows>
 consteval hwknobs_plat version_2(const char* name) {
-    constexpr auto& configs = configs_of<Rows, version_with_ids>;
+    constexpr auto& configs = configs_of<Rows, 0>;
     static_assert(keeps_rules<Rows, check_version_2(configs)>());
     return {hw_code_of(name), name, configs.data(), version_with_ids, std::size(Rows)};
 }

@@ -5,14 +5,14 @@ using namespace catalogue;
 
 namespace {
 
-constexpr row rows[] = {
-    knob{TOOL, "dummy_1_off", "Dummy 1 OFF", both("AA", "BB", R"(&SUSPEND { status="test-overide-1"; };)")},
-    knob{TOOL, "dummy_2_off", "Dummy 2 OFF", env("EE", "FF")},
-    knob{TOOL, "dummy_3_off", "Dummy 3 OFF", dt(R"(&SUSPEND { status="test-overide-2"; };)")},
-    knob{TOOL, "dummy_4_off", "Dummy 4 OFF", {true, {"GG", "%dmv"}, R"(&SUSPEND { status="test-overide-%d"; };)"}},
-    knob{TOOL, "test_level_low", "Test level low", env("test_level", "low")},
-    knob{TOOL, "test_level_mid", "Test level mid", env("test_level", "mid")},
-    knob{TOOL, "test_level_high", "Test level high", env("test_level", "high")},
+constexpr knob rows[] = {
+    {TOOL, "dummy_1_off", "Dummy 1 OFF", both("AA", "BB", R"(&SUSPEND { status="test-overide-1"; };)")},
+    {TOOL, "dummy_2_off", "Dummy 2 OFF", env("EE", "FF")},
+    {TOOL, "dummy_3_off", "Dummy 3 OFF", dt(R"(&SUSPEND { status="test-overide-2"; };)")},
+    {TOOL, "dummy_4_off", "Dummy 4 OFF", {true, {"GG", "%dmv"}, R"(&SUSPEND { status="test-overide-%d"; };)"}},
+    {TOOL, "test_level_low", "Test level low", env("test_level", "low")},
+    {TOOL, "test_level_mid", "Test level mid", env("test_level", "mid")},
+    {TOOL, "test_level_high", "Test level high", env("test_level", "high")},
 };
 
 }  // namespace

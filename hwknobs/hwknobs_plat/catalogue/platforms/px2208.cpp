@@ -17,7 +17,7 @@ using namespace catalogue;
 
 namespace {
 
-constexpr row rows[] = {
+constexpr knob rows[] = {
     // Kernel debugging and behavior
     kmemleak_disable,
     kmemleak_enable,

@@ -16,7 +16,7 @@ using namespace catalogue;
 
 namespace {
 
-constexpr row rows[] = {
+constexpr knob rows[] = {
     // Kernel debugging and behavior
     kaslr_disable,
     kaslr_enable,

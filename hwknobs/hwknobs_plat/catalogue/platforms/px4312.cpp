@@ -18,11 +18,11 @@ using namespace catalogue;
 
 namespace {
 
-constexpr row rows[] = {
+constexpr knob rows[] = {
     // Kernel debugging and behavior
     kaslr_disable,
     kaslr_enable,
-    {3, kmemleak_disable},
+    kmemleak_disable,
     kmemleak_enable,
     slub_debug_enable,
     page_owner_enable,

@@ -18,7 +18,7 @@ using namespace catalogue;
 
 namespace {
 
-constexpr row rows[] = {
+constexpr knob rows[] = {
     // Kernel debugging and behavior
     kaslr_disable,
     kaslr_enable,
@@ -185,7 +185,7 @@ constexpr row rows[] = {
     gpu_afbc_disable,
 
     // Display
-    {152, lcm_settings},
+    lcm_settings,
     panel<"nt36672c_fhdp_video">,
     panel<"td4375_fhdp_video">,
     panel<"rm692c9_fhdp_cmd">,

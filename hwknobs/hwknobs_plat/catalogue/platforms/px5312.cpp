@@ -18,12 +18,12 @@ using namespace catalogue;
 
 namespace {
 
-constexpr row rows[] = {
+constexpr knob rows[] = {
     // Kernel debugging and behavior
     kaslr_disable,
     kaslr_enable,
-    {3, kmemleak_disable},
-    {4, kmemleak_enable},
+    kmemleak_disable,
+    kmemleak_enable,
     slub_debug_enable,
     page_owner_enable,
     page_poison_enable,
@@ -205,7 +205,7 @@ constexpr row rows[] = {
     gpu_policy_coarse_demand,
     gpu_one_core,
     gpu_clock_gating_disable,
-    {174, enable_gpu_acp},
+    enable_gpu_acp,
     disable_gpu_coherency,
     gpu_soft_stop_disable,
     gpu_hard_stop_disable,
