@@ -128,7 +128,7 @@ public:
     }
 
 private:
-    void put(std::size_t column, std::string_view text) { std::ranges::copy(text, line_.begin() + column); }
+    void put(std::size_t column, std::string_view text) { text.copy(line_.data() + column, text.size()); }
 
     std::array<char, 140> line_;
 };
