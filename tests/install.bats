@@ -33,3 +33,11 @@ setup_file() {
         device reboot
     done
 }
+
+@test "the executable has what compiler and linker offer against mistakes" {
+    if grep -q '^HWKNOBS_SANITIZE:STRING=.' "$HWKNOBS_BUILD/CMakeCache.txt"; then skip "sanitizers find more"; fi
+    run -0 readelf -Wld --dyn-syms "$PREFIX/bin/hwknobs"
+    for sign in GNU_RELRO BIND_NOW __stack_chk_fail@ __read_chk@; do
+        [[ $output == *"$sign"* ]] || { echo "not seen: $sign"; return 1; }
+    done
+}

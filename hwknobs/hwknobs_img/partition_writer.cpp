@@ -61,7 +61,7 @@ void write_image(const unique_fd& file, const char* path, const partition_layout
     if (write_whole(file, &image, size)) return;
     const int reason = errno;
     const section_header no_header{};
-    static_cast<void>(pwrite(file.get(), &no_header, sizeof(no_header), 0));
+    [[maybe_unused]] const ssize_t cleared = pwrite(file.get(), &no_header, sizeof(no_header), 0);
     write_failed(path, reason);
 }
 
