@@ -32,6 +32,17 @@ platforms() { awk -v version="$1" 'version == "" || $2 == version { print $1 }' 
     done <"$BATS_FILE_TMPDIR/platforms"
 }
 
+# settings OVERLAY: label and name of each property that it sets, in the order of its fragments.
+settings() {
+    {
+        for label in $(fdtget -p "$1" /__fixups__); do
+            fdtget -t s "$1" /__fixups__ "$label" | grep -oP '@\d+' | sed "s/$/ $label/"
+        done
+        dtc -q -I dtb -O dts "$1"
+    } | awk '/^@/ { label[$1] = $2 } /fragment@/ { sub("fragment", "", $1); fragment = $1 }
+        /}/ { within = 0 } within { sub(";", "", $1); print label[fragment], $1 } /__overlay__ {/ { within = 1 }'
+}
+
 # Of its own a node of this tree has a phandle and nothing else.
 base_for() {
     echo '/dts-v1/; / {'
@@ -39,11 +50,12 @@ base_for() {
     echo '};'
 }
 
-@test "all fragments compile without a word, and merge" {
+@test "all fragments compile without a word, set what the rules see, and merge" {
     cd "$BATS_TEST_TMPDIR"
     for platform in $(platforms); do
         "$CATALOGUE_ROWS" overlay "$platform" >rows.dts
         expect 0 "" dtc -I dts -O dtb -o rows.dtbo rows.dts
+        diff <("$CATALOGUE_ROWS" sets "$platform") <(settings rows.dtbo)
         base_for rows.dtbo | dtc -@ -I dts -O dtb -o base.dtb
         fdtoverlay -i base.dtb -o merged.dtb rows.dtbo
         dtc -q -I dtb -O dts merged.dtb >merged.dts

@@ -1,5 +1,6 @@
 // Prints what the tests that run the tool want to know of the tables.
 #include "hwknobs_item/config_item.h"
+#include "hwknobs_plat/catalogue/fragment.h"
 
 #include <fmt/format.h>
 
@@ -17,6 +18,7 @@ constexpr const char* usage = R"(usage:
   catalogue_rows platforms           each platform: name, table version, hardware code
   catalogue_rows list PLATFORM       the rows by number: number, description, name, "required" with an argument, group
   catalogue_rows overlay PLATFORM    an overlay of all fragments with each sample argument
+  catalogue_rows sets PLATFORM       label and name of each property in that overlay, as the rules of the tables see it
   catalogue_rows words PLATFORM N    the words that select by name each row that has an Nth sample to be read back
 )";
 
@@ -98,6 +100,14 @@ void print_overlay(const hwknobs_plat& plat) {
                            item.format_item(row.dt_fragment));
 }
 
+void print_sets(const hwknobs_plat& plat) {
+    for (const hwknobs_config& row : hwknobs_configs(plat))
+        for (const config_item& item : sample_items(plat, row)) {
+            catalogue::fragment_scanner scanner(item.cfg->dt_fragment != nullptr ? item.cfg->dt_fragment : "");
+            while (const auto property = scanner.next()) fmt::print("{} {}\n", property->label, property->name);
+        }
+}
+
 void print_words(const hwknobs_plat& plat, std::size_t n) {
     for (const hwknobs_config& row : hwknobs_configs(plat)) {
         const auto items = sample_items(plat, row);
@@ -114,6 +124,7 @@ bool run(const std::vector<std::string_view>& words) {
     const hwknobs_plat& plat = *hwknobs_get_plat(words[1].data());
     if (command == "list") print_list(plat);
     else if (command == "overlay") print_overlay(plat);
+    else if (command == "sets") print_sets(plat);
     else if (command == "words" && words.size() == 3) print_words(plat, std::stoul(words[2].data()));
     else return false;
     return true;

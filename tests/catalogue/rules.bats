@@ -21,10 +21,12 @@ tables() {
     echo '#define X10 "xxxxxxxxxx"'
     echo '#define X30 X10 X10 X10'
     echo '#define X330 X30 X30 X30 X30 X30 X30 X30 X30 X30 X30 X30'
+    echo '#define X986 X330 X330 X30 X30 X30 X30 X30 X30 X30 X30 X30 X30 X10 X10 "xxxxxx"'
     while read -r rule row; do
         printf 'constexpr row rows_%d[] = {\n' $((++n))
-        for ((i = 0; i < n; i++)); do
-            printf '    {%d, {HRT, "good_%d", "A good row", dt("&chosen { good; };")}},\n' $((900 + i)) "$i"
+        echo '    {900, {HRT, "good", "A good row", both("g", "1", "&good { a; b; };"), choice{"good"}}},'
+        for ((i = 1; i < n; i++)); do
+            printf '    {%d, {HRT, "good_%d", "A good row", dt("&good { a%d; };")}},\n' $((900 + i)) "$i" "$i"
         done
         printf '    %s};\nconstinit const hwknobs_plat table_%d = version_2<rows_%d>("px0000");\n' "$row" "$n" "$n"
     done

@@ -4,6 +4,8 @@
 //     env(key, value)              a bootloader setting
 //     both(key, value, fragment)
 //     dt_arg(...), env_arg(...)    the same with an argument: a conversion in the last text
+//
+// and, where others set the same key or property, the choice that it is an alternative of: choice{"GPU power policy"}.
 #pragma once
 
 #include "hwknobs_plat/catalogue/text.h"
@@ -19,12 +21,19 @@ struct setting {
     const char* dt_fragment;
 };
 
+/// What a knob is an alternative of. Of two knobs that set the same bootloader key or the same property only one can
+/// have an effect: no table may hold both unless they are alternatives of one choice.
+struct choice {
+    const char* name = nullptr;
+};
+
 /// What all tables that have a knob say of it. What differs from one to the next is the id.
 struct knob {
     hwknobs_group group;
     const char* name;
     const char* desc;
     setting sets;
+    choice among{};
 };
 
 constexpr setting dt(const char* fragment) { return {false, {}, fragment}; }

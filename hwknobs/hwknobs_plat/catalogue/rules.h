@@ -1,4 +1,4 @@
-// The rules that the rows of a table keep, checked by the compiler with the tool's own template code. Why each of them
+// The rules that each row of a table keeps, checked by the compiler with the tool's own template code. Why each of them
 // is there is told in docs/catalogue.md.
 #pragma once
 
@@ -7,9 +7,7 @@
 #include "hwknobs_plat/plenv_text.h"
 
 #include <array>
-#include <span>
 #include <string_view>
-#include <utility>
 
 namespace catalogue {
 
@@ -41,12 +39,9 @@ enum class rule {
     fragment_has_no_line_of_an_item,
     fragment_fits_into_cdata,
     plenv_of_all_rows_fits_the_block,
-};
-
-/// The first broken rule of a table and its row, counted from 0.
-struct verdict {
-    int row = 0;
-    rule broken = rule::none;
+    fragment_sets_properties_of_labels,
+    key_is_set_by_one_choice,
+    property_is_set_by_one_choice,
 };
 
 constexpr std::string_view text_of(const char* text) { return text != nullptr ? std::string_view(text) : ""; }
@@ -98,6 +93,7 @@ constexpr rule check_description(const char* desc) {
     const char* at = desc;
     for (; *at != '\0'; ++at) {
         const char c = *at;
+        if (c >= 'a' && c <= 'z') continue;
         if (c < ' ' || c > '~' || c == '"' || c == '\\') return rule::desc_holds_plain_text_only;
         if (c == '-' && at[1] == '-') return rule::desc_holds_plain_text_only;
         if (c == '(' && starts_with_index(at)) return rule::desc_reads_like_no_argument_or_index;
@@ -175,11 +171,7 @@ constexpr bool unsigned_is_hexadecimal(std::string_view text) {
     return true;
 }
 
-constexpr bool takes_nothing(const char* text) {
-    if (text == nullptr) return true;
-    const char* at = text;
-    while (*at != '\0' && *at != '%') ++at;
-    if (*at == '\0') return true;
+constexpr bool takes_nothing(std::string_view text) {
     const template_check check = inspect_template(text).check;
     return check.fault == template_fault::none && check.kind == config_arg_kind::none;
 }
@@ -188,8 +180,7 @@ constexpr rule check_templates(const hwknobs_config& row) {
     const char* const value = row.pl_setting.value;
     const char* const fragment = row.dt_fragment;
     if (!row.takes_argument())
-        return takes_nothing(value) && takes_nothing(fragment) ? rule::none
-                                                               : rule::row_without_argument_has_no_conversion;
+        return takes_nothing(text_of(value)) ? rule::none : rule::row_without_argument_has_no_conversion;
     if ((value != nullptr) == (fragment != nullptr)) return rule::argument_row_has_exactly_one_template;
     const std::string_view text = value != nullptr ? value : fragment;
     const template_facts facts = inspect_template(text);
@@ -207,14 +198,19 @@ constexpr rule first_broken(std::initializer_list<rule> rules) {
     return rule::none;
 }
 
-constexpr rule check_setting(const hwknobs_config& row) {
-    if (row.pl_setting.key == nullptr && row.dt_fragment == nullptr) return rule::row_sets_something;
-    if (row.dt_fragment == nullptr) return rule::none;
-    for (const char* at = row.dt_fragment; *at != '\0'; ++at) {
+constexpr rule check_fragment(const char* fragment, bool takes_argument) {
+    for (const char* at = fragment; *at != '\0'; ++at) {
         if (*at == 'i' && starts_with(at, "item")) return rule::fragment_has_no_line_of_an_item;
         if (*at == ']' && starts_with(at, "]]>")) return rule::fragment_fits_into_cdata;
+        if (*at == '%' && !takes_argument && !takes_nothing(fragment))
+            return rule::row_without_argument_has_no_conversion;
     }
     return rule::none;
+}
+
+constexpr rule check_setting(const hwknobs_config& row) {
+    if (row.dt_fragment != nullptr) return check_fragment(row.dt_fragment, row.takes_argument());
+    return row.pl_setting.key != nullptr ? rule::none : rule::row_sets_something;
 }
 
 constexpr rule check_identity(const hwknobs_config& row) {
@@ -238,63 +234,6 @@ constexpr rule check_row(const hwknobs_config& row) {
     if (is_the_exception(row)) return rule::none;
     return first_broken(
         {check_description(row.desc), check_setting(row), check_templates(row), check_plenv(row.pl_setting)});
-}
-
-constexpr verdict check_version_0(std::span<const hwknobs_config> rows) {
-    for (std::size_t i = 0; i < rows.size(); ++i)
-        if (const rule broken = check_row(rows[i]); broken != rule::none) return {static_cast<int>(i), broken};
-    return {};
-}
-
-// The texts met so far, in a hash table: pairwise comparison exceeds the compilers' limit of constant evaluation.
-template <class Value>
-class text_map {
-public:
-    /// The value of the text, and whether the text is new; its value is then an empty one.
-    constexpr std::pair<Value&, bool> operator[](std::string_view text) {
-        std::size_t slot = 0;
-        for (const char c : text) slot = slot * 31 + static_cast<unsigned char>(c);
-        for (slot %= texts_.size(); !texts_[slot].empty(); slot = (slot + 1) % texts_.size())
-            if (texts_[slot] == text) return {values_[slot], false};
-        texts_[slot] = text;
-        return {values_[slot], true};
-    }
-
-private:
-    std::array<std::string_view, 1024> texts_{};
-    std::array<Value, 1024> values_{};
-};
-
-// Each key once, with its longest value: the most that any selection can take.
-constexpr std::size_t plenv_size_of_all(std::span<const hwknobs_config> rows) {
-    text_map<std::size_t> sizes;
-    std::size_t total = 0;
-    for (const hwknobs_config& row : rows) {
-        if (row.pl_setting.key == nullptr) continue;
-        const std::string_view key = row.pl_setting.key;
-        const std::size_t size = plenv_entry_size(key.size(), longest_value(row.pl_setting.value));
-        std::size_t& known = sizes[key].first;
-        if (size <= known) continue;
-        total += size - known;
-        known = size;
-    }
-    return total;
-}
-
-constexpr verdict check_version_2(std::span<const hwknobs_config> rows) {
-    std::array<bool, 1024> seen_ids{};
-    text_map<bool> seen_names;
-    for (std::size_t i = 0; i < rows.size(); ++i) {
-        const auto at = static_cast<int>(i);
-        if (const rule broken = first_broken({check_row(rows[i]), check_identity(rows[i])}); broken != rule::none)
-            return {at, broken};
-        if (seen_ids[rows[i].id]) return {at, rule::id_is_unique};
-        seen_ids[rows[i].id] = true;
-        if (!seen_names[rows[i].name].second) return {at, rule::name_is_unique};
-    }
-    if (plenv_size_of_all(rows) > plenv_capacity)
-        return {static_cast<int>(rows.size()) - 1, rule::plenv_of_all_rows_fits_the_block};
-    return {};
 }
 
 }  // namespace catalogue

@@ -5,7 +5,7 @@
 
 #include "hwknobs_plat/catalogue/knob.h"
 #include "hwknobs_plat/catalogue/platforms.h"
-#include "hwknobs_plat/catalogue/rules.h"
+#include "hwknobs_plat/catalogue/table_rules.h"
 
 #include <array>
 #include <iterator>
@@ -44,6 +44,13 @@ consteval auto make_configs() {
 template <const auto& Rows, std::size_t EndRows>
 inline constexpr auto configs_of = make_configs<Rows, EndRows>();
 
+template <const auto& Rows>
+consteval auto make_choices() {
+    std::array<choice, std::size(Rows)> choices{};
+    for (std::size_t i = 0; i < std::size(Rows); ++i) choices[i] = knob_of(Rows[i]).among;
+    return choices;
+}
+
 // Row, knob and rule stand in the compiler's message:
 // "row_keeps_rules<17, word<17>{"kmemleak_disable"}, catalogue::rule::desc_fits_72_columns>".
 template <int Row, word Knob, rule Broken>
@@ -75,14 +82,15 @@ consteval std::uint64_t hw_code_of(std::string_view name) {
 template <const auto& Rows>
 consteval hwknobs_plat version_0(const char* name) {
     constexpr auto& configs = configs_of<Rows, 1>;
-    static_assert(keeps_rules<Rows, check_version_0(std::span(configs).first(std::size(Rows)))>());
+    static_assert(
+        keeps_rules<Rows, check_version_0(std::span(configs).first(std::size(Rows)), make_choices<Rows>())>());
     return {hw_code_of(name), name, configs.data(), 0, 0};
 }
 
 template <const auto& Rows>
 consteval hwknobs_plat version_2(const char* name) {
     constexpr auto& configs = configs_of<Rows, 0>;
-    static_assert(keeps_rules<Rows, check_version_2(configs)>());
+    static_assert(keeps_rules<Rows, check_version_2(configs, make_choices<Rows>())>());
     return {hw_code_of(name), name, configs.data(), version_with_ids, std::size(Rows)};
 }
 

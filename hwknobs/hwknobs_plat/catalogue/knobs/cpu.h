@@ -40,7 +40,7 @@ inline constexpr knob cpufreq_disable = {
 template <unsigned Mhz>
 inline constexpr knob cpu_fix = {
     CPU, text<"cpu_fix_{}mhz", Mhz>, text<"Fix CPU cluster at {} MHz", Mhz>,
-    dt(text<"&cpufreq_cpu { fixed-frequency-mhz = <{}>; };", Mhz>)};
+    dt(text<"&cpufreq_cpu { fixed-frequency-mhz = <{}>; };", Mhz>), choice{"CPU frequency"}};
 
 template <unsigned MinMhz, unsigned MaxMhz>
 inline constexpr knob cpu_cap_set = {
@@ -48,14 +48,17 @@ inline constexpr knob cpu_cap_set = {
     dt_arg("&cpufreq_cpu { max-frequency-mhz = <0x%x>; };")};
 
 inline constexpr knob cpu_fix_max = {
-    CPU, "cpu_fix_max", "Fix all clusters at their highest operating point", dt(R"(&cpufreq { fixed-opp = "max"; };)")};
+    CPU, "cpu_fix_max", "Fix all clusters at their highest operating point", dt(R"(&cpufreq { fixed-opp = "max"; };)"),
+    choice{"operating point of all clusters"}};
 inline constexpr knob cpu_fix_min = {
-    CPU, "cpu_fix_min", "Fix all clusters at their lowest operating point", dt(R"(&cpufreq { fixed-opp = "min"; };)")};
+    CPU, "cpu_fix_min", "Fix all clusters at their lowest operating point", dt(R"(&cpufreq { fixed-opp = "min"; };)"),
+    choice{"operating point of all clusters"}};
 
 template <word Cluster, unsigned Mhz>
 inline constexpr knob cluster_fix = {
     CPU, text<"{}_fix_{}mhz", Cluster, Mhz>, text<"Fix {} cluster at {} MHz", Cluster, Mhz>,
-    dt(text<"&cpufreq_{} { fixed-frequency-mhz = <{}>; };", Cluster, Mhz>)};
+    dt(text<"&cpufreq_{} { fixed-frequency-mhz = <{}>; };", Cluster, Mhz>),
+    choice{text<"{} cluster frequency", Cluster>}};
 
 template <unsigned MinMhz, unsigned MaxMhz>
 inline constexpr knob big_cap_set = {
@@ -146,16 +149,16 @@ inline constexpr knob svs_disable = {
     both("avs", "off", R"(&svs { status = "disabled"; };)")};
 inline constexpr knob cpu_plus_25mv = {
     CPU, "cpu_plus_25mv", "Raise CPU voltage by 25 mV at every operating point",
-    dt("&svs_cpu { voltage-offset-microvolt = <25000>; };")};
+    dt("&svs_cpu { voltage-offset-microvolt = <25000>; };"), choice{"CPU voltage"}};
 inline constexpr knob cpu_voltage_offset = {
     CPU, "cpu_voltage_offset", "Offset CPU voltage in uV (-50000 to 50000)",
-    dt_arg("&svs_cpu { voltage-offset-microvolt = <%d>; };")};
+    dt_arg("&svs_cpu { voltage-offset-microvolt = <%d>; };"), choice{"CPU voltage"}};
 inline constexpr knob big_plus_25mv = {
     CPU, "big_plus_25mv", "Raise big cluster voltage by 25 mV at every operating point",
-    dt("&svs_big { voltage-offset-microvolt = <25000>; };")};
+    dt("&svs_big { voltage-offset-microvolt = <25000>; };"), choice{"big cluster voltage"}};
 inline constexpr knob big_voltage_offset = {
     CPU, "big_voltage_offset", "Offset big cluster voltage in uV (-50000 to 50000)",
-    dt_arg("&svs_big { voltage-offset-microvolt = <%d>; };")};
+    dt_arg("&svs_big { voltage-offset-microvolt = <%d>; };"), choice{"big cluster voltage"}};
 inline constexpr knob droop_disable = {
     CPU, "droop_disable", "Disable clock stretching on big cluster voltage droop",
     dt(R"(&droop_big { status = "disabled"; };)")};
@@ -174,7 +177,7 @@ inline constexpr knob erratum_skip = {
 template <word Cores, unsigned Number, word About>
 inline constexpr knob firmware_erratum_skip = {
     CPU, text<"erratum_{}_skip", Number>, text<"Skip Cortex-{} erratum {} workaround ({})", Cores, Number, About>,
-    env("noerr", text<"{}", Number>)};
+    env(text<"noerr_{}", Number>, "on")};
 
 inline constexpr knob erratum_fw_skip = {
     CPU, "erratum_fw_skip", "Skip one secure monitor erratum workaround by its number", env_arg("noerr", "0x%x")};

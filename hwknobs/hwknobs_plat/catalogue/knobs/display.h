@@ -11,7 +11,7 @@ inline constexpr knob lcm_settings = {
 template <word Panel>
 inline constexpr knob panel = {
     DISPLAY, text<"panel_{}", Panel>, text<"Force panel {} at boot", Panel>,
-    both("panel", text<"{}", Panel>, text<R"(&dsi0 { panel-name = "{}"; };)", Panel>)};
+    both("panel", text<"{}", Panel>, text<R"(&dsi0 { panel-name = "{}"; };)", Panel>), choice{"panel"}};
 
 inline constexpr knob panel_id_check_skip = {
     DISPLAY, "panel_id_check_skip", "Skip panel ID read, trust the boot loader",
@@ -25,7 +25,7 @@ inline constexpr knob esd_check_disable = {
 template <unsigned Hz>
 inline constexpr knob refresh_fix = {
     DISPLAY, text<"refresh_fix_{}hz", Hz>, text<"Fix panel refresh rate at {} Hz", Hz>,
-    dt(text<"&dispsys { fixed-refresh-hz = <{}>; };", Hz>)};
+    dt(text<"&dispsys { fixed-refresh-hz = <{}>; };", Hz>), choice{"fixed refresh rate"}};
 
 inline constexpr knob refresh_idle_drop_disable = {
     DISPLAY, "refresh_idle_drop_disable", "Keep refresh rate when the screen is static",
@@ -79,10 +79,11 @@ inline constexpr knob disp_underrun_red = {
     DISPLAY, "disp_underrun_red", "Output red pixels on display underrun",
     dt("&rdma0 { underrun-color = <0xff0000>; };")};
 inline constexpr knob disp_underrun_panic = {
-    DISPLAY, "disp_underrun_panic", "Panic on display underrun", dt(R"(&dispsys { underrun-action = "panic"; };)")};
+    DISPLAY, "disp_underrun_panic", "Panic on display underrun", dt(R"(&dispsys { underrun-action = "panic"; };)"),
+    choice{"display underrun"}};
 inline constexpr knob disp_underrun_action_set = {
     DISPLAY, "disp_underrun_action_set", "Set action on display underrun (none, log, dump or panic)",
-    dt_arg(R"(&dispsys { underrun-action = "%s[none,log,dump,panic]"; };)")};
+    dt_arg(R"(&dispsys { underrun-action = "%s[none,log,dump,panic]"; };)"), choice{"display underrun"}};
 inline constexpr knob disp_frame_trace = {
     DISPLAY, "disp_frame_trace", "Trace frame commit, start and done in ftrace", dt("&dispsys { frame-trace; };")};
 

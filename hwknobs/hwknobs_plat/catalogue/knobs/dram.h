@@ -8,33 +8,36 @@ namespace catalogue {
 template <unsigned Mbps>
 inline constexpr knob dram_fix = {
     DRAM, text<"dram_fix_{}mbps", Mbps>, text<"Fix DRAM data rate at {} Mbps", Mbps>,
-    both("ddr_rate", text<"{}", Mbps>, text<"&dramc { fixed-data-rate = <{}>; };", Mbps>)};
+    both("ddr_rate", text<"{}", Mbps>, text<"&dramc { fixed-data-rate = <{}>; };", Mbps>),
+    choice{"fixed DRAM data rate"}};
 
 template <unsigned Mbps>
 inline constexpr knob dram_max = {
     DRAM, text<"dram_max_{}mbps", Mbps>, text<"Cap DRAM data rate at {} Mbps", Mbps>,
-    dt(text<"&dramc { max-data-rate = <{}>; };", Mbps>)};
+    dt(text<"&dramc { max-data-rate = <{}>; };", Mbps>), choice{"highest DRAM data rate"}};
 
 template <unsigned Mbps>
 inline constexpr knob dram_min = {
     DRAM, text<"dram_min_{}mbps", Mbps>, text<"Keep DRAM data rate at {} Mbps or higher", Mbps>,
-    dt(text<"&dramc { min-data-rate = <{}>; };", Mbps>)};
+    dt(text<"&dramc { min-data-rate = <{}>; };", Mbps>), choice{"lowest DRAM data rate"}};
 
 inline constexpr knob dram_dvfs_disable = {
     DRAM, "dram_dvfs_disable", "Disable DRAM DVFS and stay at the boot data rate", dt("&dramc { dvfs-disable; };")};
 inline constexpr knob dram_train_full = {
-    DRAM, "dram_train_full", "Run full DRAM training at every boot", env("ddr_train", "full")};
+    DRAM, "dram_train_full", "Run full DRAM training at every boot", env("ddr_train", "full"), choice{"DRAM training"}};
 inline constexpr knob dram_train_skip = {
-    DRAM, "dram_train_skip", "Skip DRAM training and use default delays (bring-up only)", env("ddr_train", "skip")};
+    DRAM, "dram_train_skip", "Skip DRAM training and use default delays (bring-up only)", env("ddr_train", "skip"),
+    choice{"DRAM training"}};
 inline constexpr knob dram_zq_calibration_disable = {
     DRAM, "dram_zq_calibration_disable", "Disable periodic ZQ calibration",
     dt(R"(&dramc { zq-calibration = "none"; };)")};
 inline constexpr knob dram_train_renew = {
-    DRAM, "dram_train_renew", "Discard saved DRAM training data and retrain", env("ddr_train", "new")};
+    DRAM, "dram_train_renew", "Discard saved DRAM training data and retrain", env("ddr_train", "new"),
+    choice{"DRAM training"}};
 inline constexpr knob dram_eye_scan_rx = {
-    DRAM, "dram_eye_scan_rx", "Print DRAM read eye scan in the boot loader log", env("ddr_eye", "rx")};
+    DRAM, "dram_eye_scan_rx", "Print DRAM read eye scan in the boot loader log", env("ddr_eye_rx", "on")};
 inline constexpr knob dram_eye_scan_tx = {
-    DRAM, "dram_eye_scan_tx", "Print DRAM write eye scan in the boot loader log", env("ddr_eye", "tx")};
+    DRAM, "dram_eye_scan_tx", "Print DRAM write eye scan in the boot loader log", env("ddr_eye_tx", "on")};
 
 template <word Supply>
 inline constexpr knob dram_train_vdd2_offset = {
@@ -49,13 +52,13 @@ inline constexpr knob dram_refresh_2x = {
     DRAM, "dram_refresh_2x", "Double DRAM refresh rate (half tREFI)", dt("&dramc { refresh-rate-percent = <200>; };")};
 inline constexpr knob dram_refresh_per_bank = {
     DRAM, "dram_refresh_per_bank", "Use per-bank refresh instead of all-bank refresh",
-    dt(R"(&dramc { refresh-mode = "per-bank"; };)")};
+    dt(R"(&dramc { refresh-mode = "per-bank"; };)"), choice{"DRAM refresh mode"}};
 inline constexpr knob dram_mr4_tracking_disable = {
     DRAM, "dram_mr4_tracking_disable", "Ignore DRAM temperature (MR4) and keep nominal refresh rate",
     dt("&dramc { mr4-tracking-disable; };")};
 inline constexpr knob dram_refresh_all_bank = {
     DRAM, "dram_refresh_all_bank", "Use all-bank refresh instead of per-bank refresh",
-    dt(R"(&dramc { refresh-mode = "all-bank"; };)")};
+    dt(R"(&dramc { refresh-mode = "all-bank"; };)"), choice{"DRAM refresh mode"}};
 
 template <unsigned MaxCode>
 inline constexpr knob dram_mr4_override = {
@@ -75,28 +78,31 @@ inline constexpr knob dram_clock_gating_disable = {
 inline constexpr knob dram_wck_always_on = {
     DRAM, "dram_wck_always_on", "Keep DRAM WCK always on", dt("&dramc { wck-always-on; };")};
 inline constexpr knob dram_odt_disable = {
-    DRAM, "dram_odt_disable", "Disable DQ on-die termination (ODT) of DRAM", env("ddr_odt", "off")};
+    DRAM, "dram_odt_disable", "Disable DQ on-die termination (ODT) of DRAM", env("ddr_odt", "off"),
+    choice{"DRAM termination"}};
 inline constexpr knob dram_odt_set = {
     DRAM, "dram_odt_set", "Set DQ on-die termination of DRAM (40, 48, 60, 80, 120 or 240 ohms)",
-    env_arg("ddr_odt", "0x%x")};
+    env_arg("ddr_odt", "0x%x"), choice{"DRAM termination"}};
 inline constexpr knob dram_drive_set = {
     DRAM, "dram_drive_set", "Set DRAM output driver impedance (40, 48, 60, 80, 120 or 240 ohms)",
     env_arg("ddr_drv", "0x%x")};
 inline constexpr knob dram_dbi_disable = {
     DRAM, "dram_dbi_disable", "Disable DRAM data bus inversion (DBI)", env("ddr_dbi", "off")};
 inline constexpr knob dram_link_ecc_disable = {
-    DRAM, "dram_link_ecc_disable", "Disable DRAM link ECC", env("ddr_ecc", "link-off")};
+    DRAM, "dram_link_ecc_disable", "Disable DRAM link ECC", env("ddr_ecc_link", "off")};
 inline constexpr knob dram_inline_ecc_disable = {
-    DRAM, "dram_inline_ecc_disable", "Disable inline ECC of DRAM", env("ddr_ecc", "inline-off")};
+    DRAM, "dram_inline_ecc_disable", "Disable inline ECC of DRAM", env("ddr_ecc_inline", "off")};
 inline constexpr knob dram_inline_ecc_uncorrected_panic = {
     DRAM, "dram_inline_ecc_uncorrected_panic", "Panic on uncorrectable inline ECC error",
     dt("&dramc { ecc-ue-panic; };")};
-inline constexpr knob dram_rank0_only = {DRAM, "dram_rank0_only", "Use DRAM rank 0 only", env("ddr_topo", "rank0")};
+inline constexpr knob dram_rank0_only = {DRAM, "dram_rank0_only", "Use DRAM rank 0 only", env("ddr_ranks", "1")};
 inline constexpr knob dram_channel0_only = {
-    DRAM, "dram_channel0_only", "Use DRAM channel 0 only", env("ddr_topo", "ch0")};
+    DRAM, "dram_channel0_only", "Use DRAM channel 0 only", env("ddr_channels", "1")};
 inline constexpr knob dram_test_quick = {
-    DRAM, "dram_test_quick", "Run a quick memory test after DRAM initialization", env("ddr_test", "mini")};
+    DRAM, "dram_test_quick", "Run a quick memory test after DRAM initialization", env("ddr_test", "mini"),
+    choice{"DRAM test"}};
 inline constexpr knob dram_test_full = {
-    DRAM, "dram_test_full", "Test all DRAM at boot (may take several minutes)", env("ddr_test", "full")};
+    DRAM, "dram_test_full", "Test all DRAM at boot (may take several minutes)", env("ddr_test", "full"),
+    choice{"DRAM test"}};
 
 }  // namespace catalogue

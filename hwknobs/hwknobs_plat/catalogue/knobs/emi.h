@@ -13,9 +13,11 @@ inline constexpr knob emi_bwmon_window_set = {
 inline constexpr knob emi_hash_disable = {
     EMI, "emi_hash_disable", "Disable EMI address hash across channels and banks", env("emi_hash", "0")};
 inline constexpr knob emi_mpu_panic = {
-    EMI, "emi_mpu_panic", "Panic on EMI MPU violation", dt(R"(&emi_mpu { violation-action = "panic"; };)")};
+    EMI, "emi_mpu_panic", "Panic on EMI MPU violation", dt(R"(&emi_mpu { violation-action = "panic"; };)"),
+    choice{"EMI MPU violation"}};
 inline constexpr knob emi_mpu_log = {
-    EMI, "emi_mpu_log", "Only log EMI MPU violations", dt(R"(&emi_mpu { violation-action = "log"; };)")};
+    EMI, "emi_mpu_log", "Only log EMI MPU violations", dt(R"(&emi_mpu { violation-action = "log"; };)"),
+    choice{"EMI MPU violation"}};
 inline constexpr knob emi_mpu_disable = {
     EMI, "emi_mpu_disable", "Disable EMI MPU regions (development devices only)", env("emi_mpu", "off")};
 inline constexpr knob bus_hang_enable = {

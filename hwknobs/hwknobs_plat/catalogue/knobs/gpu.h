@@ -8,23 +8,23 @@ namespace catalogue {
 template <unsigned Mhz>
 inline constexpr knob gpu_fix = {
     GPU, text<"gpu_fix_{}mhz", Mhz>, text<"Fix GPU at {} MHz", Mhz>,
-    dt(text<"&gpufreq { fixed-frequency-mhz = <{}>; };", Mhz>)};
+    dt(text<"&gpufreq { fixed-frequency-mhz = <{}>; };", Mhz>), choice{"fixed GPU frequency"}};
 
 template <unsigned Mhz>
 inline constexpr knob gpu_max = {
     GPU, text<"gpu_max_{}mhz", Mhz>, text<"Cap GPU frequency at {} MHz", Mhz>,
-    dt(text<"&gpufreq { max-frequency-mhz = <{}>; };", Mhz>)};
+    dt(text<"&gpufreq { max-frequency-mhz = <{}>; };", Mhz>), choice{"highest GPU frequency"}};
 
 template <unsigned Mhz>
 inline constexpr knob gpu_min = {
     GPU, text<"gpu_min_{}mhz", Mhz>, text<"Keep GPU frequency at {} MHz or higher", Mhz>,
-    dt(text<"&gpufreq { min-frequency-mhz = <{}>; };", Mhz>)};
+    dt(text<"&gpufreq { min-frequency-mhz = <{}>; };", Mhz>), choice{"lowest GPU frequency"}};
 
 inline constexpr knob gpu_dvfs_disable = {
     GPU, "gpu_dvfs_disable", "Disable GPU DVFS and keep the boot frequency", dt("&gpufreq { dvfs-disable; };")};
 inline constexpr knob gpu_plus_25mv = {
     GPU, "gpu_plus_25mv", "Raise GPU voltage by 25 mV at every operating point",
-    dt("&gpufreq { voltage-offset-microvolt = <25000>; };")};
+    dt("&gpufreq { voltage-offset-microvolt = <25000>; };"), choice{"GPU voltage"}};
 inline constexpr knob gpu_dvfs_period_set = {
     GPU, "gpu_dvfs_period_set", "Set GPU load sampling period for DVFS in ms (1-1000)",
     dt_arg("&mali { dvfs-period-ms = <0x%x>; };")};
@@ -33,7 +33,7 @@ inline constexpr knob gpu_throttle_disable = {
     dt("&gpufreq { thermal-throttle-disable; };")};
 inline constexpr knob gpu_voltage_offset = {
     GPU, "gpu_voltage_offset", "Offset GPU voltage in uV (-50000 to 50000)",
-    dt_arg("&gpufreq { voltage-offset-microvolt = <%d>; };")};
+    dt_arg("&gpufreq { voltage-offset-microvolt = <%d>; };"), choice{"GPU voltage"}};
 inline constexpr knob gpu_speed_bin_ignore = {
     GPU, "gpu_speed_bin_ignore", "Ignore GPU speed bin fuses and use the default OPP table", env("gpu_bin", "off")};
 inline constexpr knob gpu_avs_disable = {
@@ -44,10 +44,11 @@ inline constexpr knob gpu_power_on_from_boot = {
     GPU, "gpu_power_on_from_boot", "Keep GPU power domain on from the boot loader onward",
     both("gpu_pwr", "on", "&gpufreq { power-always-on; };")};
 inline constexpr knob gpu_policy_always_on = {
-    GPU, "gpu_policy_always_on", "Use always_on GPU power policy", dt(R"(&mali { power-policy = "always_on"; };)")};
+    GPU, "gpu_policy_always_on", "Use always_on GPU power policy", dt(R"(&mali { power-policy = "always_on"; };)"),
+    choice{"GPU power policy"}};
 inline constexpr knob gpu_policy_coarse_demand = {
     GPU, "gpu_policy_coarse_demand", "Use coarse_demand GPU power policy",
-    dt(R"(&mali { power-policy = "coarse_demand"; };)")};
+    dt(R"(&mali { power-policy = "coarse_demand"; };)"), choice{"GPU power policy"}};
 inline constexpr knob gpu_policy_adaptive_set = {
     GPU, "gpu_policy_adaptive_set", "Set adaptive GPU power policy level (0-3, 0 for off)",
     dt_arg("&mali { adaptive-power-policy = <%d>; };")};
@@ -59,9 +60,10 @@ inline constexpr knob gpu_sleep_disable = {
     GPU, "gpu_sleep_disable", "Disable GPU firmware sleep and always power off on idle",
     dt("&mali { firmware-sleep-disable; };")};
 inline constexpr knob enable_gpu_acp = {
-    GPU, "enable_gpu_acp", "Enable GPU ACP", dt("&mali { system-coherency = <0>; };")};
+    GPU, "enable_gpu_acp", "Enable GPU ACP", dt("&mali { system-coherency = <0>; };"), choice{"GPU coherency"}};
 inline constexpr knob disable_gpu_coherency = {
-    GPU, "disable_gpu_coherency", "Disable GPU system coherency", dt("&mali { system-coherency = <31>; };")};
+    GPU, "disable_gpu_coherency", "Disable GPU system coherency", dt("&mali { system-coherency = <31>; };"),
+    choice{"GPU coherency"}};
 inline constexpr knob gpu_soft_stop_disable = {
     GPU, "gpu_soft_stop_disable", "Disable soft-stop of GPU jobs", dt("&mali { soft-stop-disable; };")};
 inline constexpr knob gpu_hard_stop_disable = {

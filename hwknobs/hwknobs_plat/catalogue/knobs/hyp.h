@@ -7,12 +7,13 @@ namespace catalogue {
 
 inline constexpr knob pkvm_enable = {
     HYP, "pkvm_enable", "Enable protected VMs (pKVM)",
-    both("pkvm", "on", R"(&chosen { kvm-arm-mode = "protected"; };)")};
+    both("pkvm", "on", R"(&chosen { kvm-arm-mode = "protected"; };)"), choice{"KVM mode"}};
 inline constexpr knob pkvm_disable = {
     HYP, "pkvm_disable", "Enter kernel at EL1 without hypervisor",
-    both("pkvm", "off", R"(&hypervisor { status = "disabled"; };)")};
+    both("pkvm", "off", R"(&hypervisor { status = "disabled"; };)"), choice{"KVM mode"}};
 inline constexpr knob kvm_nvhe = {
-    HYP, "kvm_nvhe", "Run KVM in nVHE mode without protected VMs", dt(R"(&chosen { kvm-arm-mode = "nvhe"; };)")};
+    HYP, "kvm_nvhe", "Run KVM in nVHE mode without protected VMs", dt(R"(&chosen { kvm-arm-mode = "nvhe"; };)"),
+    choice{"KVM mode"}};
 inline constexpr knob stage2_fault_log = {
     HYP, "stage2_fault_log", "Log host stage-2 faults at EL2", dt("&hypervisor { host-stage2-fault-log; };")};
 inline constexpr knob hyp_iommu_disable = {

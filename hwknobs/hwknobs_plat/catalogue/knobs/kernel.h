@@ -6,13 +6,16 @@
 namespace catalogue {
 
 inline constexpr knob kaslr_disable = {
-    KERNEL, "kaslr_disable", "Disable Linux kernel randomize-base", dt(R"(&chosen { kaslr-status="disabled"; };)")};
+    KERNEL, "kaslr_disable", "Disable Linux kernel randomize-base", dt(R"(&chosen { kaslr-status="disabled"; };)"),
+    choice{"KASLR"}};
 inline constexpr knob kaslr_enable = {
-    KERNEL, "kaslr_enable", "Enable Linux kernel randomize-base", dt(R"(&chosen { kaslr-status="okay"; };)")};
+    KERNEL, "kaslr_enable", "Enable Linux kernel randomize-base", dt(R"(&chosen { kaslr-status="okay"; };)"),
+    choice{"KASLR"}};
 inline constexpr knob kmemleak_disable = {
-    KERNEL, "kmemleak_disable", "Disable Kmemleak", dt(R"(&chosen { kmemleak-status="disabled"; };)")};
+    KERNEL, "kmemleak_disable", "Disable Kmemleak", dt(R"(&chosen { kmemleak-status="disabled"; };)"),
+    choice{"kmemleak"}};
 inline constexpr knob kmemleak_enable = {
-    KERNEL, "kmemleak_enable", "Enable Kmemleak", dt(R"(&chosen { kmemleak-status="okay"; };)")};
+    KERNEL, "kmemleak_enable", "Enable Kmemleak", dt(R"(&chosen { kmemleak-status="okay"; };)"), choice{"kmemleak"}};
 inline constexpr knob kasan_hw_tags_enable = {
     KERNEL, "kasan_hw_tags_enable", "Enable KASAN with MTE hardware tags",
     dt(R"(&chosen { kasan-hw-tags-status = "okay"; };)")};
@@ -72,10 +75,10 @@ inline constexpr knob console_level_set = {
     KERNEL, "console_level_set", "Set console log level (0-8)", dt_arg("&chosen { console-loglevel = <0x%x>; };")};
 inline constexpr knob uart_console_disable = {
     KERNEL, "uart_console_disable", "Disable UART log in boot loader and kernel",
-    both("uart_log", "off", R"(&chosen { uart-console-status = "disabled"; };)")};
+    both("uart_log", "off", R"(&chosen { uart-console-status = "disabled"; };)"), choice{"UART log"}};
 inline constexpr knob uart_console_enable = {
     KERNEL, "uart_console_enable", "Enable UART log in boot loader and kernel",
-    both("uart_log", "on", R"(&chosen { uart-console-status = "okay"; };)")};
+    both("uart_log", "on", R"(&chosen { uart-console-status = "okay"; };)"), choice{"UART log"}};
 inline constexpr knob log_buf_8m = {
     KERNEL, "log_buf_8m", "Set kernel log buffer to 8 MB", dt("&chosen { log-buf-len = <0x800000>; };")};
 inline constexpr knob hash_pointers_disable = {
@@ -98,11 +101,11 @@ inline constexpr knob regulator_ignore_unused = {
     KERNEL, "regulator_ignore_unused", "Keep unused regulators on after boot",
     dt("&chosen { regulator-ignore-unused; };")};
 inline constexpr knob trace_buf_16m = {
-    KERNEL, "trace_buf_16m", "Set ftrace buffer size per CPU to 16 MB",
-    dt("&chosen { trace-buf-size-kb = <16384>; };")};
+    KERNEL, "trace_buf_16m", "Set ftrace buffer size per CPU to 16 MB", dt("&chosen { trace-buf-size-kb = <16384>; };"),
+    choice{"ftrace buffer size"}};
 inline constexpr knob trace_buf_size_set = {
     KERNEL, "trace_buf_size_set", "Set ftrace buffer size per CPU in KB (4-65536)",
-    dt_arg("&chosen { trace-buf-size-kb = <0x%x>; };")};
+    dt_arg("&chosen { trace-buf-size-kb = <0x%x>; };"), choice{"ftrace buffer size"}};
 inline constexpr knob trace_sched_irq_boot = {
     KERNEL, "trace_sched_irq_boot", "Record scheduler and interrupt events from boot",
     dt(R"(&chosen { trace-event = "sched,irq,ipi"; };)")};
@@ -130,13 +133,13 @@ inline constexpr knob sysrq_enable = {
     KERNEL, "sysrq_enable", "Enable all SysRq functions", dt("&chosen { sysrq-always-enabled; };")};
 inline constexpr knob ramdump_disable = {
     KERNEL, "ramdump_disable", "Disable RAM dump after a crash",
-    both("ramdump", "off", R"(&chosen { ramdump-status = "disabled"; };)")};
+    both("ramdump", "off", R"(&chosen { ramdump-status = "disabled"; };)"), choice{"RAM dump"}};
 inline constexpr knob ramdump_full_enable = {
     KERNEL, "ramdump_full_enable", "Dump the whole RAM after a crash",
-    both("ramdump", "full", R"(&chosen { ramdump-status = "okay"; };)")};
+    both("ramdump", "full", R"(&chosen { ramdump-status = "okay"; };)"), choice{"RAM dump"}};
 inline constexpr knob ramdump_mini_enable = {
     KERNEL, "ramdump_mini_enable", "Dump only registered minidump regions after a crash",
-    both("ramdump", "mini", R"(&chosen { minidump-status = "okay"; };)")};
+    both("ramdump", "mini", R"(&chosen { minidump-status = "okay"; };)"), choice{"RAM dump"}};
 inline constexpr knob ramdump_to_usb = {KERNEL, "ramdump_to_usb", "Send RAM dump to USB host", env("dump_to", "usb")};
 inline constexpr knob lowmemorykiller_disable = {
     KERNEL, "lowmemorykiller_disable", "Disable in-kernel low memory killer",

@@ -8,7 +8,7 @@ namespace catalogue {
 template <word Buck>
 inline constexpr knob buck_plus_25mv = {
     PMIC, text<"buck_{}_plus_25mv", Buck>, text<"Raise buck {} by 25 mV in the boot loader", Buck>,
-    env("buck_adj", text<"{}-p25", Buck>)};
+    env(text<"buck_{}", Buck>, "p25")};
 
 template <word Buck>
 inline constexpr knob buck_offset = {
@@ -44,15 +44,16 @@ inline constexpr knob pwrkey_reset_disable = {
     both("lprst", "off", "&pmic_keys { long-press-mode = <0>; };")};
 inline constexpr knob pwrkey_reset_time_8s = {
     PMIC, "pwrkey_reset_time_8s", "Set long-press reset time of the power key to 8 s",
-    dt("&pmic_keys { power-off-time-sec = <8>; };")};
+    dt("&pmic_keys { power-off-time-sec = <8>; };"), choice{"power key reset time"}};
 inline constexpr knob pwrkey_reset_time_set = {
     PMIC, "pwrkey_reset_time_set", "Set long-press reset time of the power key (5, 8, 11 or 14 s)",
-    dt_arg("&pmic_keys { power-off-time-sec = <0x%x>; };")};
+    dt_arg("&pmic_keys { power-off-time-sec = <0x%x>; };"), choice{"power key reset time"}};
 inline constexpr knob pmic_reset_cold = {
-    PMIC, "pmic_reset_cold", "Power-cycle all rails on reboot", dt(R"(&pmic { reset-type = "cold"; };)")};
+    PMIC, "pmic_reset_cold", "Power-cycle all rails on reboot", dt(R"(&pmic { reset-type = "cold"; };)"),
+    choice{"PMIC reset"}};
 inline constexpr knob pmic_reset_warm = {
     PMIC, "pmic_reset_warm", "Use warm reset on reboot and panic (DRAM stays powered)",
-    dt(R"(&pmic { reset-type = "warm"; };)")};
+    dt(R"(&pmic { reset-type = "warm"; };)"), choice{"PMIC reset"}};
 inline constexpr knob pmic_wdt_disable = {
     PMIC, "pmic_wdt_disable", "Disable PMIC watchdog",
     both("pmic_wdt", "off", R"(&pmic_watchdog { status = "disabled"; };)")};

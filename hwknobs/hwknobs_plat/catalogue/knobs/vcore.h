@@ -12,7 +12,7 @@ inline constexpr knob vcore_dvfs_disable = {
 template <unsigned Mv>
 inline constexpr knob vcore_fix = {
     VCORE, text<"vcore_fix_{}mv", Mv>, text<"Fix VCORE at {} mV", Mv>,
-    dt(text<"&vcore_dvfs { fixed-microvolt = <{}>; };", Mv * 1000>)};
+    dt(text<"&vcore_dvfs { fixed-microvolt = <{}>; };", Mv * 1000>), choice{"fixed VCORE level"}};
 
 inline constexpr knob vcore_hold_boot = {
     VCORE, "vcore_hold_boot", "Hold highest VCORE level until boot has completed",

@@ -6,13 +6,14 @@ using namespace catalogue;
 namespace {
 
 constexpr knob rows[] = {
-    {TOOL, "dummy_1_off", "Dummy 1 OFF", both("AA", "BB", R"(&SUSPEND { status="test-overide-1"; };)")},
+    {TOOL, "dummy_1_off", "Dummy 1 OFF", both("AA", "BB", R"(&SUSPEND { status="test-overide-1"; };)"), choice{"SUSPEND"}},
     {TOOL, "dummy_2_off", "Dummy 2 OFF", env("EE", "FF")},
-    {TOOL, "dummy_3_off", "Dummy 3 OFF", dt(R"(&SUSPEND { status="test-overide-2"; };)")},
-    {TOOL, "dummy_4_off", "Dummy 4 OFF", {true, {"GG", "%dmv"}, R"(&SUSPEND { status="test-overide-%d"; };)"}},
-    {TOOL, "test_level_low", "Test level low", env("test_level", "low")},
-    {TOOL, "test_level_mid", "Test level mid", env("test_level", "mid")},
-    {TOOL, "test_level_high", "Test level high", env("test_level", "high")},
+    {TOOL, "dummy_3_off", "Dummy 3 OFF", dt(R"(&SUSPEND { status="test-overide-2"; };)"), choice{"SUSPEND"}},
+    {TOOL, "dummy_4_off", "Dummy 4 OFF", {true, {"GG", "%dmv"}, R"(&SUSPEND { status="test-overide-%d"; };)"},
+     choice{"SUSPEND"}},
+    {TOOL, "test_level_low", "Test level low", env("test_level", "low"), choice{"test level"}},
+    {TOOL, "test_level_mid", "Test level mid", env("test_level", "mid"), choice{"test level"}},
+    {TOOL, "test_level_high", "Test level high", env("test_level", "high"), choice{"test level"}},
 };
 
 }  // namespace
