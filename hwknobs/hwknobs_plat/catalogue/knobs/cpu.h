@@ -68,7 +68,7 @@ inline constexpr knob big_cap_set = {
 inline constexpr knob big_turbo_disable = {
     CPU, "big_turbo_disable", "Disable turbo operating points of big cluster", dt("&cpufreq_big { turbo-disable; };")};
 inline constexpr knob boot_opp_max = {
-    CPU, "boot_opp_max", "Run the boot core at its highest clock in the boot loader", env("bootopp", "max")};
+    CPU, "boot_opp_max", "Run the boot core at its highest clock in the bootloader", env("bootopp", "max")};
 inline constexpr knob interactive_timer_10ms = {
     CPU, "interactive_timer_10ms", "Set interactive timer_rate to 10 ms",
     dt("&chosen { interactive-timer-rate-us = <10000>; };")};
@@ -81,9 +81,11 @@ inline constexpr knob iowait_boost_disable = {
     CPU, "iowait_boost_disable", "Disable schedutil boost after I/O wait",
     dt("&chosen { schedutil-no-iowait-boost; };")};
 inline constexpr knob eas_disable = {
-    CPU, "eas_disable", "Disable energy-aware scheduling", dt("&chosen { sched-energy-aware = <0>; };")};
+    CPU, "eas_disable", "Disable energy-aware scheduling",
+    dt(R"(&chosen { sched-energy-aware-status = "disabled"; };)")};
 inline constexpr knob walt_disable = {
-    CPU, "walt_disable", "Use PELT instead of WALT load tracking", dt("&chosen { sched-use-walt = <0>; };")};
+    CPU, "walt_disable", "Use PELT instead of WALT load tracking",
+    dt(R"(&chosen { sched-walt-status = "disabled"; };)")};
 inline constexpr knob schedtune_disable = {
     CPU, "schedtune_disable", "Ignore schedtune boost of task groups", dt("&chosen { schedtune-disable; };")};
 inline constexpr knob pelt_halflife_8ms = {
@@ -96,8 +98,8 @@ inline constexpr knob misfit_disable = {
     dt("&chosen { sched-no-misfit; };")};
 
 template <word Cpus>
-inline constexpr knob isolate_big = {
-    CPU, "isolate_big", "Keep normal tasks off the big cluster (isolcpus)",
+inline constexpr knob big_isolate = {
+    CPU, "big_isolate", "Keep normal tasks off the big cluster (isolcpus)",
     dt(text<R"(&chosen { isolated-cpus = "{}"; };)", Cpus>)};
 
 inline constexpr knob sched_feature_set = {
@@ -182,9 +184,10 @@ inline constexpr knob firmware_erratum_skip = {
 inline constexpr knob erratum_fw_skip = {
     CPU, "erratum_fw_skip", "Skip one secure monitor erratum workaround by its number", env_arg("noerr", "0x%x")};
 inline constexpr knob mitigations_off = {
-    CPU, "mitigations_off", "Disable all CPU speculation mitigations", dt(R"(&chosen { mitigations = "off"; };)")};
+    CPU, "mitigations_off", "Disable all CPU speculation mitigations",
+    dt(R"(&chosen { mitigations-status = "disabled"; };)")};
 inline constexpr knob kpti_disable = {
-    CPU, "kpti_disable", "Disable kernel page table isolation (KPTI)", dt(R"(&chosen { kpti = "off"; };)")};
+    CPU, "kpti_disable", "Disable kernel page table isolation (KPTI)", dt(R"(&chosen { kpti-status = "disabled"; };)")};
 inline constexpr knob el0_32bit_disable = {
     CPU, "el0_32bit_disable", "Refuse 32-bit programs", dt("&chosen { no-32bit-el0; };")};
 inline constexpr knob el0_32bit_mismatch_allow = {
@@ -192,7 +195,7 @@ inline constexpr knob el0_32bit_mismatch_allow = {
     dt("&chosen { allow-mismatched-32bit-el0; };")};
 inline constexpr knob ssbd_disable = {
     CPU, "ssbd_disable", "Allow speculative store bypass everywhere (SSBD off)",
-    dt(R"(&chosen { ssbd = "force-off"; };)")};
+    dt(R"(&chosen { ssbd-status = "disabled"; };)")};
 inline constexpr knob lse_disable = {
     CPU, "lse_disable", "Use LL/SC loops instead of LSE atomic instructions", dt("&chosen { no-lse; };")};
 inline constexpr knob pmu_user_access = {

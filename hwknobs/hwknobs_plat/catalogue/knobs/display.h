@@ -14,13 +14,13 @@ inline constexpr knob panel = {
     both("panel", text<"{}", Panel>, text<R"(&dsi0 { panel-name = "{}"; };)", Panel>), choice{"panel"}};
 
 inline constexpr knob panel_id_check_skip = {
-    DISPLAY, "panel_id_check_skip", "Skip panel ID read, trust the boot loader",
-    dt(R"(&dsi0 { panel-id-check = "off"; };)")};
+    DISPLAY, "panel_id_check_skip", "Skip panel ID read, trust the bootloader",
+    dt("&dsi0 { panel-id-check-disable; };")};
 inline constexpr knob seamless_logo_disable = {
     DISPLAY, "seamless_logo_disable", "Reset and reinitialize panel in the kernel (no seamless logo)",
-    dt(R"(&dispsys { continuous-splash = "off"; };)")};
+    dt("&dispsys { continuous-splash-disable; };")};
 inline constexpr knob esd_check_disable = {
-    DISPLAY, "esd_check_disable", "Disable panel ESD check", dt(R"(&dsi0 { esd-check = "off"; };)")};
+    DISPLAY, "esd_check_disable", "Disable panel ESD check", dt("&dsi0 { esd-check-disable; };")};
 
 template <unsigned Hz>
 inline constexpr knob refresh_fix = {
@@ -29,7 +29,7 @@ inline constexpr knob refresh_fix = {
 
 inline constexpr knob refresh_idle_drop_disable = {
     DISPLAY, "refresh_idle_drop_disable", "Keep refresh rate when the screen is static",
-    dt(R"(&dispsys { refresh-idle-drop = "off"; };)")};
+    dt("&dispsys { refresh-idle-drop-disable; };")};
 
 template <unsigned MaxMbps>
 inline constexpr knob dsi_lane_rate_set = {
@@ -43,7 +43,7 @@ inline constexpr knob dsi_ssc_disable = {
     DISPLAY, "dsi_ssc_disable", "Disable DSI PLL spread spectrum",
     both("dsi_ssc", "off", "&mipi_tx0 { ssc-disable; };")};
 inline constexpr knob dsi_ulps_disable = {
-    DISPLAY, "dsi_ulps_disable", "Keep DSI lanes out of ULPS between frames", dt(R"(&dsi0 { ulps = "off"; };)")};
+    DISPLAY, "dsi_ulps_disable", "Keep DSI lanes out of ULPS between frames", dt("&dsi0 { ulps-disable; };")};
 inline constexpr knob dsi1_disable = {
     DISPLAY, "dsi1_disable", "Disable second DSI link", dt(R"(&dsi1 { status = "disabled"; };)")};
 inline constexpr knob dp_disable = {
@@ -52,29 +52,29 @@ inline constexpr knob dp_rate_hbr = {
     DISPLAY, "dp_rate_hbr", "Limit DisplayPort link rate to HBR (2.7 Gbps)",
     dt("&dp_tx { max-linkrate-mhz = <2700>; };")};
 inline constexpr knob bl_boot_level_set = {
-    DISPLAY, "bl_boot_level_set", "Set boot loader brightness level (0-255)", env_arg("bl_lvl", "0x%x")};
+    DISPLAY, "bl_boot_level_set", "Set bootloader brightness level (0-255)", env_arg("bl_lvl", "0x%x")};
 inline constexpr knob bl_fixed_50 = {
     DISPLAY, "bl_fixed_50", "Fix panel brightness at 50 percent",
     dt("&backlight { fixed-brightness-percent = <50>; };")};
 inline constexpr knob bl_pwm_20khz = {
     DISPLAY, "bl_pwm_20khz", "Set backlight PWM frequency to 20 kHz", dt("&disp_pwm { pwm-frequency-hz = <20000>; };")};
 inline constexpr knob cabc_disable = {
-    DISPLAY, "cabc_disable", "Disable content adaptive backlight (CABC)", dt(R"(&dsi0 { cabc-mode = "off"; };)")};
+    DISPLAY, "cabc_disable", "Disable content adaptive backlight (CABC)", dt("&dsi0 { cabc-disable; };")};
 inline constexpr knob disp_idle_disable = {
     DISPLAY, "disp_idle_disable", "Keep display path and its clocks on when the screen is static",
-    dt(R"(&dispsys { idle-mode = "off"; };)")};
+    dt("&dispsys { idle-mode-disable; };")};
 inline constexpr knob disp_partial_disable = {
     DISPLAY, "disp_partial_disable", "Disable partial update, always send full frames",
-    dt(R"(&dispsys { partial-update = "off"; };)")};
+    dt("&dispsys { partial-update-disable; };")};
 inline constexpr knob te_ignore = {
     DISPLAY, "te_ignore", "Ignore panel TE signal, send frames on a timer", dt(R"(&dsi0 { te-source = "timer"; };)")};
 inline constexpr knob aod_disable = {
-    DISPLAY, "aod_disable", "Disable always-on display", dt(R"(&dispsys { aod = "off"; };)")};
+    DISPLAY, "aod_disable", "Disable always-on display", dt("&dispsys { aod-disable; };")};
 inline constexpr knob ovl_single_layer = {
     DISPLAY, "ovl_single_layer", "Offer one overlay layer only, compose the rest on the GPU",
     dt("&ovl0 { max-layers = <1>; };")};
 inline constexpr knob ovl_afbc_disable = {
-    DISPLAY, "ovl_afbc_disable", "Refuse AFBC compressed layers in the overlay", dt(R"(&ovl0 { afbc = "off"; };)")};
+    DISPLAY, "ovl_afbc_disable", "Refuse AFBC compressed layers in the overlay", dt("&ovl0 { afbc-disable; };")};
 inline constexpr knob disp_underrun_red = {
     DISPLAY, "disp_underrun_red", "Output red pixels on display underrun",
     dt("&rdma0 { underrun-color = <0xff0000>; };")};
@@ -84,8 +84,6 @@ inline constexpr knob disp_underrun_panic = {
 inline constexpr knob disp_underrun_action_set = {
     DISPLAY, "disp_underrun_action_set", "Set action on display underrun (none, log, dump or panic)",
     dt_arg(R"(&dispsys { underrun-action = "%s[none,log,dump,panic]"; };)"), choice{"display underrun"}};
-inline constexpr knob disp_frame_trace = {
-    DISPLAY, "disp_frame_trace", "Trace frame commit, start and done in ftrace", dt("&dispsys { frame-trace; };")};
 
 template <word AllBits>
 inline constexpr knob drm_debug_mask_set = {
@@ -93,7 +91,7 @@ inline constexpr knob drm_debug_mask_set = {
     dt_arg("&chosen { drm-debug = <0x%x>; };")};
 
 inline constexpr knob dsi_bist_boot = {
-    DISPLAY, "dsi_bist_boot", "Show DSI color bars in the boot loader", env("dsi_bist", "1")};
+    DISPLAY, "dsi_bist_boot", "Show DSI color bars in the bootloader", env("dsi_bist", "on")};
 inline constexpr knob boot_logo_disable = {DISPLAY, "boot_logo_disable", "Do not show boot logo", env("logo", "off")};
 inline constexpr knob pq_bypass = {
     DISPLAY, "pq_bypass", "Bypass all picture quality blocks", dt("&dispsys { pq-bypass; };")};

@@ -6,7 +6,7 @@
 namespace catalogue {
 
 inline constexpr knob dpsw_all_on = {
-    DPSW, "dpsw_all_on", "Keep all power domains on from the boot loader onward",
+    DPSW, "dpsw_all_on", "Keep all power domains on from the bootloader onward",
     both("dpsw_on", "all", "&power_controller { domains-always-on; };")};
 inline constexpr knob pd_ignore_unused = {
     DPSW, "pd_ignore_unused", "Keep unused power domains on after boot", dt("&chosen { pd-ignore-unused; };")};

@@ -35,9 +35,9 @@ inline constexpr knob dram_train_renew = {
     DRAM, "dram_train_renew", "Discard saved DRAM training data and retrain", env("ddr_train", "new"),
     choice{"DRAM training"}};
 inline constexpr knob dram_eye_scan_rx = {
-    DRAM, "dram_eye_scan_rx", "Print DRAM read eye scan in the boot loader log", env("ddr_eye_rx", "on")};
+    DRAM, "dram_eye_scan_rx", "Print DRAM read eye scan in the bootloader log", env("ddr_eye_rx", "on")};
 inline constexpr knob dram_eye_scan_tx = {
-    DRAM, "dram_eye_scan_tx", "Print DRAM write eye scan in the boot loader log", env("ddr_eye_tx", "on")};
+    DRAM, "dram_eye_scan_tx", "Print DRAM write eye scan in the bootloader log", env("ddr_eye_tx", "on")};
 
 template <word Supply>
 inline constexpr knob dram_train_vdd2_offset = {
@@ -66,7 +66,7 @@ inline constexpr knob dram_mr4_override = {
     dt_arg("&dramc { mr4-override = <0x%x>; };")};
 
 inline constexpr knob dram_rfm_disable = {
-    DRAM, "dram_rfm_disable", "Disable DRAM refresh management (RFM)", dt(R"(&dramc { rfm-mode = "off"; };)")};
+    DRAM, "dram_rfm_disable", "Disable DRAM refresh management (RFM)", dt("&dramc { rfm-disable; };")};
 inline constexpr knob dram_self_refresh_disable = {
     DRAM, "dram_self_refresh_disable", "Disable self-refresh entry of idle DRAM controller",
     dt("&dramc { idle-self-refresh-disable; };")};

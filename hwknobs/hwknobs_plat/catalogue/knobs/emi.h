@@ -11,7 +11,7 @@ inline constexpr knob emi_bwmon_window_set = {
     EMI, "emi_bwmon_window_set", "Set EMI bandwidth monitor window in ms (1-1000)",
     dt_arg("&emi_bwmon { window-ms = <0x%x>; };")};
 inline constexpr knob emi_hash_disable = {
-    EMI, "emi_hash_disable", "Disable EMI address hash across channels and banks", env("emi_hash", "0")};
+    EMI, "emi_hash_disable", "Disable EMI address hash across channels and banks", env("emi_hash", "off")};
 inline constexpr knob emi_mpu_panic = {
     EMI, "emi_mpu_panic", "Panic on EMI MPU violation", dt(R"(&emi_mpu { violation-action = "panic"; };)"),
     choice{"EMI MPU violation"}};

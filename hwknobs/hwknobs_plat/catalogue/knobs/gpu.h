@@ -1,4 +1,4 @@
-// Operating points, power policy, shader cores, memory protection, trace.
+// Operating points, power policy, shader cores, memory protection.
 #pragma once
 
 #include "hwknobs_plat/catalogue/knob.h"
@@ -41,7 +41,7 @@ inline constexpr knob gpu_avs_disable = {
 inline constexpr knob gpu_disable = {
     GPU, "gpu_disable", "Disable GPU and fall back to software rendering", dt(R"(&mali { status = "disabled"; };)")};
 inline constexpr knob gpu_power_on_from_boot = {
-    GPU, "gpu_power_on_from_boot", "Keep GPU power domain on from the boot loader onward",
+    GPU, "gpu_power_on_from_boot", "Keep GPU power domain on from the bootloader onward",
     both("gpu_pwr", "on", "&gpufreq { power-always-on; };")};
 inline constexpr knob gpu_policy_always_on = {
     GPU, "gpu_policy_always_on", "Use always_on GPU power policy", dt(R"(&mali { power-policy = "always_on"; };)"),
@@ -61,15 +61,15 @@ inline constexpr knob gpu_sleep_disable = {
     dt("&mali { firmware-sleep-disable; };")};
 inline constexpr knob enable_gpu_acp = {
     GPU, "enable_gpu_acp", "Enable GPU ACP", dt("&mali { system-coherency = <0>; };"), choice{"GPU coherency"}};
-inline constexpr knob disable_gpu_coherency = {
-    GPU, "disable_gpu_coherency", "Disable GPU system coherency", dt("&mali { system-coherency = <31>; };"),
+inline constexpr knob gpu_coherency_disable = {
+    GPU, "gpu_coherency_disable", "Disable GPU system coherency", dt("&mali { system-coherency = <31>; };"),
     choice{"GPU coherency"}};
 inline constexpr knob gpu_soft_stop_disable = {
     GPU, "gpu_soft_stop_disable", "Disable soft-stop of GPU jobs", dt("&mali { soft-stop-disable; };")};
 inline constexpr knob gpu_hard_stop_disable = {
     GPU, "gpu_hard_stop_disable", "Disable hard-stop of GPU jobs", dt("&mali { hard-stop-disable; };")};
-inline constexpr knob gpu_serialize_jobs = {
-    GPU, "gpu_serialize_jobs", "Serialize GPU jobs over all job slots", dt(R"(&mali { serialize-jobs = "full"; };)")};
+inline constexpr knob gpu_jobs_serialize = {
+    GPU, "gpu_jobs_serialize", "Serialize GPU jobs over all job slots", dt(R"(&mali { serialize-jobs = "full"; };)")};
 inline constexpr knob gpu_csf_fw_timeout_set = {
     GPU, "gpu_csf_fw_timeout_set", "Set GPU firmware response timeout in ms (100-60000)",
     dt_arg("&mali { firmware-timeout-ms = <0x%x>; };")};
@@ -85,8 +85,6 @@ inline constexpr knob gpu_mmu_fault_panic = {
 inline constexpr knob gpu_exception_mask_set = {
     GPU, "gpu_exception_mask_set", "Set mask of GPU exceptions to report (0x0-0xffffffff)",
     dt_arg("&mali { exception-mask = <0x%x>; };")};
-inline constexpr knob gpu_job_trace = {
-    GPU, "gpu_job_trace", "Trace start and end of GPU jobs in ftrace", dt("&mali { job-trace-enable; };")};
 inline constexpr knob gpu_counters_enable = {
     GPU, "gpu_counters_enable", "Allow GPU hardware counters for unprivileged processes",
     dt("&mali { hwcnt-user-access; };")};

@@ -6,7 +6,7 @@
 namespace catalogue {
 
 inline constexpr knob hrt_check_disable = {
-    HRT, "hrt_check_disable", "Disable hard real-time bandwidth check", dt(R"(&hrt { check = "off"; };)")};
+    HRT, "hrt_check_disable", "Disable hard real-time bandwidth check", dt("&hrt { check-disable; };")};
 inline constexpr knob hrt_dvfs_floor_max = {
     HRT, "hrt_dvfs_floor_max", "Keep highest DRAM rate while display is on",
     dt(R"(&hrt { display-dvfs-floor = "max"; };)")};
@@ -18,8 +18,8 @@ inline constexpr knob hrt_over_log = {
 inline constexpr knob hrt_margin_set = {
     HRT, "hrt_margin_set", "Change hard real-time margin in percent (-20 to 50)",
     dt_arg("&hrt { margin-percent = <%d>; };")};
-inline constexpr knob hrt_bandwidth_include_ecc_overhead = {
-    HRT, "hrt_bandwidth_include_ecc_overhead", "Count DRAM inline ECC overhead in hard real-time bandwidth",
+inline constexpr knob hrt_bandwidth_ecc_overhead_include = {
+    HRT, "hrt_bandwidth_ecc_overhead_include", "Count DRAM inline ECC overhead in hard real-time bandwidth",
     dt("&hrt { count-inline-ecc-traffic; };")};
 
 }  // namespace catalogue

@@ -57,30 +57,20 @@ inline constexpr knob hung_task_timeout_set = {
     KERNEL, "hung_task_timeout_set", "Set hung task timeout in seconds (0 for off)",
     dt_arg("&chosen { hung-task-timeout-sec = <0x%x>; };")};
 inline constexpr knob hung_task_panic_enable = {
-    KERNEL, "hung_task_panic_enable", "Panic when a hung task is found", dt("&chosen { hung-task-panic = <1>; };")};
+    KERNEL, "hung_task_panic_enable", "Panic when a hung task is found", dt("&chosen { hung-task-panic; };")};
 inline constexpr knob softlockup_panic_enable = {
-    KERNEL, "softlockup_panic_enable", "Panic on soft lockup", dt("&chosen { softlockup-panic = <1>; };")};
+    KERNEL, "softlockup_panic_enable", "Panic on soft lockup", dt("&chosen { softlockup-panic; };")};
 inline constexpr knob rcu_stall_panic_enable = {
-    KERNEL, "rcu_stall_panic_enable", "Panic on RCU CPU stall", dt("&chosen { panic-on-rcu-stall = <1>; };")};
+    KERNEL, "rcu_stall_panic_enable", "Panic on RCU CPU stall", dt("&chosen { panic-on-rcu-stall; };")};
 inline constexpr knob rcu_exp_stall_timeout_200ms = {
     KERNEL, "rcu_exp_stall_timeout_200ms", "Set expedited RCU stall timeout to 200 ms",
     dt("&chosen { rcu-exp-cpu-stall-timeout-ms = <200>; };")};
 inline constexpr knob watchdog_disable = {
-    KERNEL, "watchdog_disable", "Disable hardware watchdog in boot loader and kernel",
+    KERNEL, "watchdog_disable", "Disable hardware watchdog in bootloader and kernel",
     both("wdt_boot", "off", R"(&watchdog { status = "disabled"; };)")};
 inline constexpr knob watchdog_percpu_kick_enable = {
     KERNEL, "watchdog_percpu_kick_enable", "Kick watchdog from every CPU to catch hard lockups",
     dt("&watchdog { percpu-kick; };")};
-inline constexpr knob console_level_set = {
-    KERNEL, "console_level_set", "Set console log level (0-8)", dt_arg("&chosen { console-loglevel = <0x%x>; };")};
-inline constexpr knob uart_console_disable = {
-    KERNEL, "uart_console_disable", "Disable UART log in boot loader and kernel",
-    both("uart_log", "off", R"(&chosen { uart-console-status = "disabled"; };)"), choice{"UART log"}};
-inline constexpr knob uart_console_enable = {
-    KERNEL, "uart_console_enable", "Enable UART log in boot loader and kernel",
-    both("uart_log", "on", R"(&chosen { uart-console-status = "okay"; };)"), choice{"UART log"}};
-inline constexpr knob log_buf_8m = {
-    KERNEL, "log_buf_8m", "Set kernel log buffer to 8 MB", dt("&chosen { log-buf-len = <0x800000>; };")};
 inline constexpr knob hash_pointers_disable = {
     KERNEL, "hash_pointers_disable", "Print plain kernel pointers instead of hashed ones",
     dt("&chosen { no-hash-pointers; };")};
@@ -100,26 +90,14 @@ inline constexpr knob clk_ignore_unused = {
 inline constexpr knob regulator_ignore_unused = {
     KERNEL, "regulator_ignore_unused", "Keep unused regulators on after boot",
     dt("&chosen { regulator-ignore-unused; };")};
-inline constexpr knob trace_buf_16m = {
-    KERNEL, "trace_buf_16m", "Set ftrace buffer size per CPU to 16 MB", dt("&chosen { trace-buf-size-kb = <16384>; };"),
-    choice{"ftrace buffer size"}};
-inline constexpr knob trace_buf_size_set = {
-    KERNEL, "trace_buf_size_set", "Set ftrace buffer size per CPU in KB (4-65536)",
-    dt_arg("&chosen { trace-buf-size-kb = <0x%x>; };"), choice{"ftrace buffer size"}};
-inline constexpr knob trace_sched_irq_boot = {
-    KERNEL, "trace_sched_irq_boot", "Record scheduler and interrupt events from boot",
-    dt(R"(&chosen { trace-event = "sched,irq,ipi"; };)")};
-inline constexpr knob trace_dump_on_oops = {
-    KERNEL, "trace_dump_on_oops", "Dump ftrace buffers of all CPUs to console on oops",
-    dt("&chosen { ftrace-dump-on-oops = <1>; };")};
 inline constexpr knob panic_timeout_set = {
     KERNEL, "panic_timeout_set", "Set panic reboot delay in seconds (-1 at once, 0 never)",
     dt_arg("&chosen { panic-timeout-sec = <%d>; };")};
 inline constexpr knob panic_on_oops_disable = {
     KERNEL, "panic_on_oops_disable", "Kill the failing task and go on after an oops",
-    dt("&chosen { panic-on-oops = <0>; };")};
+    dt(R"(&chosen { panic-on-oops-status = "disabled"; };)")};
 inline constexpr knob panic_on_warn_enable = {
-    KERNEL, "panic_on_warn_enable", "Panic on kernel warning", dt("&chosen { panic-on-warn = <1>; };")};
+    KERNEL, "panic_on_warn_enable", "Panic on kernel warning", dt("&chosen { panic-on-warn; };")};
 inline constexpr knob panic_on_bad_page_enable = {
     KERNEL, "panic_on_bad_page_enable", "Panic when a corrupted page taints the kernel",
     dt("&chosen { panic-on-taint = <0x20>; };")};
@@ -144,8 +122,8 @@ inline constexpr knob ramdump_to_usb = {KERNEL, "ramdump_to_usb", "Send RAM dump
 inline constexpr knob lowmemorykiller_disable = {
     KERNEL, "lowmemorykiller_disable", "Disable in-kernel low memory killer",
     dt(R"(&chosen { lowmemorykiller-status = "disabled"; };)")};
-inline constexpr knob ramdump_skip_user_pages = {
-    KERNEL, "ramdump_skip_user_pages", "Leave user space pages out of the RAM dump",
+inline constexpr knob ramdump_user_pages_skip = {
+    KERNEL, "ramdump_user_pages_skip", "Leave user space pages out of the RAM dump",
     dt("&chosen { ramdump-skip-user-pages; };")};
 inline constexpr knob pstore_all_reasons = {
     KERNEL, "pstore_all_reasons", "Store kernel log in pstore on every reboot", dt("&ramoops { max-reason = <4>; };")};
@@ -180,7 +158,32 @@ inline constexpr knob thermal_critical_ignore = {
     dt(R"(&chosen { thermal-critical-status = "disabled"; };)")};
 inline constexpr knob pseudo_nmi_enable = {
     KERNEL, "pseudo_nmi_enable", "Enable pseudo-NMI by GIC priorities (hard lockup backtrace)",
-    dt("&chosen { gicv3-pseudo-nmi = <1>; };")};
+    dt("&chosen { gicv3-pseudo-nmi; };")};
+
+// Console
+inline constexpr knob console_level_set = {
+    KERNEL, "console_level_set", "Set console log level (0-8)", dt_arg("&chosen { console-loglevel = <0x%x>; };")};
+inline constexpr knob uart_console_disable = {
+    KERNEL, "uart_console_disable", "Disable UART log in bootloader and kernel",
+    both("uart_log", "off", R"(&chosen { uart-console-status = "disabled"; };)"), choice{"UART log"}};
+inline constexpr knob uart_console_enable = {
+    KERNEL, "uart_console_enable", "Enable UART log in bootloader and kernel",
+    both("uart_log", "on", R"(&chosen { uart-console-status = "okay"; };)"), choice{"UART log"}};
+inline constexpr knob log_buf_8m = {
+    KERNEL, "log_buf_8m", "Set kernel log buffer to 8 MB", dt("&chosen { log-buf-len = <0x800000>; };")};
+inline constexpr knob earlycon_enable = {
+    KERNEL, "earlycon_enable", "Enable early console on UART", dt("&chosen { earlycon; };")};
+inline constexpr knob uart_shell_set = {
+    KERNEL, "uart_shell_set", "Switch Android shell on UART console on or off",
+    dt_arg(R"(&chosen { uart-shell = "%s[on,off]"; };)")};
+inline constexpr knob uart_baud_921600 = {
+    KERNEL, "uart_baud_921600", "Set UART baud rate to 921600",
+    both("baud", "921600", "&uart0 { current-speed = <921600>; };")};
+inline constexpr knob console_suspend_disable = {
+    KERNEL, "console_suspend_disable", "Keep console running during system suspend",
+    dt("&chosen { no-console-suspend; };")};
+
+// Storage
 inline constexpr knob emmc_hs400_disable = {
     KERNEL, "emmc_hs400_disable", "Disable eMMC HS400 mode", dt("&mmc0 { no-mmc-hs400; };")};
 inline constexpr knob emmc_clk_50mhz = {
@@ -190,11 +193,13 @@ inline constexpr knob ufs_gear_1 = {
 inline constexpr knob ufs_hibern8_disable = {
     KERNEL, "ufs_hibern8_disable", "Disable UFS automatic hibern8",
     dt(R"(&ufshci { auto-hibern8-status = "disabled"; };)")};
-inline constexpr knob ufs_clk_gating_disable = {
-    KERNEL, "ufs_clk_gating_disable", "Disable UFS clock gating",
+inline constexpr knob ufs_clock_gating_disable = {
+    KERNEL, "ufs_clock_gating_disable", "Disable UFS clock gating",
     dt(R"(&ufshci { clk-gating-status = "disabled"; };)")};
 inline constexpr knob ufs_write_booster_disable = {
     KERNEL, "ufs_write_booster_disable", "Disable UFS WriteBooster",
     dt(R"(&ufshci { write-booster-status = "disabled"; };)")};
+inline constexpr knob emmc_rpm_disable = {
+    KERNEL, "emmc_rpm_disable", "Disable eMMC runtime suspend", dt("&mmc0 { runtime-pm-disable; };")};
 
 }  // namespace catalogue

@@ -7,21 +7,19 @@ namespace catalogue {
 
 inline constexpr knob suspend_disable = {
     LPM, "suspend_disable", "Disable system suspend", dt("&spm { suspend-disable; };")};
-inline constexpr knob suspend_with_usb_allow = {
-    LPM, "suspend_with_usb_allow", "Allow system suspend while USB is connected",
+inline constexpr knob usb_suspend_allow = {
+    LPM, "usb_suspend_allow", "Allow system suspend while USB is connected",
     dt("&usb0 { suspend-wake-lock-disable; };")};
 inline constexpr knob suspend_s2idle = {
     LPM, "suspend_s2idle", "Use suspend-to-idle as default suspend mode",
     dt(R"(&chosen { mem-sleep-default = "s2idle"; };)")};
-inline constexpr knob console_suspend_disable = {
-    LPM, "console_suspend_disable", "Keep console running during system suspend",
-    dt("&chosen { no-console-suspend; };")};
 inline constexpr knob pm_print_times = {
     LPM, "pm_print_times", "Print suspend and resume time of each device", dt("&chosen { pm-print-times; };")};
 inline constexpr knob pm_debug_messages = {
     LPM, "pm_debug_messages", "Enable suspend and resume debug messages", dt("&chosen { pm-debug-messages; };")};
 inline constexpr knob pm_async_disable = {
-    LPM, "pm_async_disable", "Suspend and resume devices one at a time", dt("&chosen { pm-async = <0>; };")};
+    LPM, "pm_async_disable", "Suspend and resume devices one at a time",
+    dt(R"(&chosen { pm-async-status = "disabled"; };)")};
 inline constexpr knob pm_test_set = {
     LPM, "pm_test_set", "Stop suspend at stage freezer, devices, platform, processors or core",
     dt_arg(R"(&chosen { pm-test = "%s[freezer,devices,platform,processors,core]"; };)")};
@@ -35,8 +33,8 @@ inline constexpr knob wake_reason_log = {
 inline constexpr knob wake_mask_set = {
     LPM, "wake_mask_set", "Mask SPM wake-up sources by bit mask (0x0-0xffffffff)",
     dt_arg("&spm { wake-source-mask = <0x%x>; };")};
-inline constexpr knob wake_modem_mask = {
-    LPM, "wake_modem_mask", "Mask wake-up by modem", dt("&spm { wake-mask-modem; };")};
+inline constexpr knob modem_wake_mask = {
+    LPM, "modem_wake_mask", "Mask wake-up by modem", dt("&spm { wake-mask-modem; };")};
 inline constexpr knob gic_pending_log = {
     LPM, "gic_pending_log", "Log pending GIC interrupts when suspend is aborted", dt("&gic { suspend-pending-log; };")};
 inline constexpr knob soc_idle_disable = {
@@ -59,18 +57,15 @@ inline constexpr knob resource_req_log = {
     LPM, "resource_req_log", "Log resource requests that block SoC idle", dt("&spm { resource-request-log; };")};
 inline constexpr knob sleep_count_log = {
     LPM, "sleep_count_log", "Print 26 MHz off and self-refresh counters at resume", dt("&spm { sleep-counter-log; };")};
-inline constexpr knob lpm_trace_boot = {
-    LPM, "lpm_trace_boot", "Enable low-power trace events from boot", dt("&lpm { trace-at-boot; };")};
 inline constexpr knob spm_log_enable = {
     LPM, "spm_log_enable", "Enable log of SPM firmware", both("spm_log", "on", "&spm { firmware-log; };")};
 inline constexpr knob spm_firmware_skip = {
     LPM, "spm_firmware_skip", "Do not load SPM firmware, stay in WFI when idle", env("spm_fw", "off")};
-inline constexpr knob clkgate_bus_disable = {
-    LPM, "clkgate_bus_disable", "Disable hardware clock gating of system bus",
+inline constexpr knob bus_clock_gating_disable = {
+    LPM, "bus_clock_gating_disable", "Disable hardware clock gating of system bus",
     dt("&sysbus { clock-gating-disable; };")};
-inline constexpr knob clkgate_disp_disable = {
-    LPM, "clkgate_disp_disable", "Disable hardware clock gating of display", dt("&dispsys { clock-gating-disable; };")};
-inline constexpr knob emmc_rpm_disable = {
-    LPM, "emmc_rpm_disable", "Disable eMMC runtime suspend", dt("&mmc0 { runtime-pm-disable; };")};
+inline constexpr knob disp_clock_gating_disable = {
+    LPM, "disp_clock_gating_disable", "Disable hardware clock gating of display",
+    dt("&dispsys { clock-gating-disable; };")};
 
 }  // namespace catalogue

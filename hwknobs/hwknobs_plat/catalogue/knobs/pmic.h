@@ -7,7 +7,7 @@ namespace catalogue {
 
 template <word Buck>
 inline constexpr knob buck_plus_25mv = {
-    PMIC, text<"buck_{}_plus_25mv", Buck>, text<"Raise buck {} by 25 mV in the boot loader", Buck>,
+    PMIC, text<"buck_{}_plus_25mv", Buck>, text<"Raise buck {} by 25 mV in the bootloader", Buck>,
     env(text<"buck_{}", Buck>, "p25")};
 
 template <word Buck>
@@ -25,7 +25,7 @@ inline constexpr knob buck_pwm = {
 
 inline constexpr knob pmic_lp_mode_disable = {
     PMIC, "pmic_lp_mode_disable", "Keep bucks and LDOs out of low-power mode in suspend",
-    dt(R"(&pmic { low-power-mode = "off"; };)")};
+    dt("&pmic { low-power-mode-disable; };")};
 inline constexpr knob ldo_vsd33_on = {
     PMIC, "ldo_vsd33_on", "Keep SD card LDO vsd33 on", dt("&vsd33 { regulator-always-on; };")};
 inline constexpr knob pmic_oc_log_only = {
@@ -37,11 +37,10 @@ inline constexpr knob buck_vgpu11_oc_error_set = {
 inline constexpr knob pmic_uvlo_2600mv = {
     PMIC, "pmic_uvlo_2600mv", "Set PMIC under-voltage lockout to 2600 mV", env("uvlo_mv", "2600")};
 inline constexpr knob pmic_thermal_shutdown_disable = {
-    PMIC, "pmic_thermal_shutdown_disable", "Disable PMIC thermal shutdown",
-    dt(R"(&pmic { thermal-shutdown = "off"; };)")};
+    PMIC, "pmic_thermal_shutdown_disable", "Disable PMIC thermal shutdown", dt("&pmic { thermal-shutdown-disable; };")};
 inline constexpr knob pwrkey_reset_disable = {
     PMIC, "pwrkey_reset_disable", "Disable long-press reset of the power key",
-    both("lprst", "off", "&pmic_keys { long-press-mode = <0>; };")};
+    both("lprst", "off", "&pmic_keys { long-press-reset-disable; };")};
 inline constexpr knob pwrkey_reset_time_8s = {
     PMIC, "pwrkey_reset_time_8s", "Set long-press reset time of the power key to 8 s",
     dt("&pmic_keys { power-off-time-sec = <8>; };"), choice{"power key reset time"}};
@@ -58,8 +57,8 @@ inline constexpr knob pmic_wdt_disable = {
     PMIC, "pmic_wdt_disable", "Disable PMIC watchdog",
     both("pmic_wdt", "off", R"(&pmic_watchdog { status = "disabled"; };)")};
 inline constexpr knob pmic_reg_dump = {
-    PMIC, "pmic_reg_dump", "Dump PMIC registers in boot loader and at kernel probe",
-    both("pmic_dump", "1", "&pmic { probe-register-dump; };")};
+    PMIC, "pmic_reg_dump", "Dump PMIC registers in bootloader and at kernel probe",
+    both("pmic_dump", "on", "&pmic { probe-register-dump; };")};
 inline constexpr knob pmic_reg_print = {
     PMIC, "pmic_reg_print", "Print one PMIC register at probe by address (0x0-0xffff)",
     dt_arg("&pmic { probe-register-print = <0x%x>; };")};
@@ -71,7 +70,7 @@ inline constexpr knob pmic_boot_reason_log = {
 inline constexpr knob spmi_parity_panic = {
     PMIC, "spmi_parity_panic", "Panic on SPMI parity error", dt(R"(&spmi { parity-error-action = "panic"; };)")};
 inline constexpr knob chg_disable = {
-    PMIC, "chg_disable", "Disable battery charging", dt(R"(&charger { charging = "off"; };)")};
+    PMIC, "chg_disable", "Disable battery charging", dt("&charger { charging-disable; };")};
 inline constexpr knob chg_input_500ma = {
     PMIC, "chg_input_500ma", "Limit charger input current to 500 mA",
     dt("&charger { input-current-limit-microamp = <500000>; };")};
@@ -79,7 +78,7 @@ inline constexpr knob chg_current_set = {
     PMIC, "chg_current_set", "Set charge current limit in uA (100000-3000000)",
     dt_arg("&charger { constant-charge-current-max-microamp = <0x%x>; };")};
 inline constexpr knob chg_jeita_disable = {
-    PMIC, "chg_jeita_disable", "Ignore JEITA temperature ranges when charging", dt(R"(&charger { jeita = "off"; };)")};
+    PMIC, "chg_jeita_disable", "Ignore JEITA temperature ranges when charging", dt("&charger { jeita-disable; };")};
 inline constexpr knob gauge_soc_50 = {
     PMIC, "gauge_soc_50", "Report fixed battery level of 50 percent", dt("&gauge { fixed-capacity-percent = <50>; };")};
 inline constexpr knob gauge_temp_set = {
@@ -87,9 +86,9 @@ inline constexpr knob gauge_temp_set = {
     dt_arg("&gauge { fixed-temperature-celsius = <%d>; };")};
 inline constexpr knob gauge_low_shutdown_disable = {
     PMIC, "gauge_low_shutdown_disable", "Do not shut down at low battery voltage",
-    dt(R"(&gauge { low-voltage-shutdown = "off"; };)")};
+    dt("&gauge { low-voltage-shutdown-disable; };")};
 inline constexpr knob batt_throttle_disable = {
     PMIC, "batt_throttle_disable", "Disable CPU and GPU throttling on battery voltage dips",
-    dt(R"(&battery { voltage-dip-throttling = "off"; };)")};
+    dt("&battery { voltage-dip-throttling-disable; };")};
 
 }  // namespace catalogue

@@ -1,22 +1,14 @@
-// Tracing, profiling, logs, UART and debug ports.
+// Tracing, profiling, logs, debug ports.
 #pragma once
 
 #include "hwknobs_plat/catalogue/knob.h"
 
 namespace catalogue {
 
-inline constexpr knob earlycon_enable = {
-    TOOL, "earlycon_enable", "Enable early console on UART", dt("&chosen { earlycon; };")};
-inline constexpr knob uart_shell_set = {
-    TOOL, "uart_shell_set", "Switch Android shell on UART console on or off",
-    dt_arg(R"(&chosen { uart-shell = "%s[on,off]"; };)")};
-inline constexpr knob uart_baud_921600 = {
-    TOOL, "uart_baud_921600", "Set UART baud rate to 921600",
-    both("baud", "921600", "&uart0 { current-speed = <921600>; };")};
-inline constexpr knob loader_log_verbose = {
-    TOOL, "loader_log_verbose", "Print all boot loader messages", env("bl_log", "5")};
+inline constexpr knob bootloader_log_verbose = {
+    TOOL, "bootloader_log_verbose", "Print all bootloader messages", env("bl_log", "5")};
 inline constexpr knob log_store_enable = {
-    TOOL, "log_store_enable", "Save boot loader and kernel log to storage",
+    TOOL, "log_store_enable", "Save bootloader and kernel log to storage",
     both("bl_save", "on", "&chosen { log-store; };")};
 inline constexpr knob boot_reason_print = {
     TOOL, "boot_reason_print", "Print boot reason and watchdog reset status at boot",
@@ -71,5 +63,25 @@ inline constexpr knob conn_log_enable = {
     TOOL, "conn_log_enable", "Enable log of Wi-Fi and Bluetooth firmware", dt("&connectivity { firmware-log; };")};
 inline constexpr knob sensorhub_log_enable = {
     TOOL, "sensorhub_log_enable", "Enable log of sensor hub firmware", dt("&sensor_hub { firmware-log; };")};
+
+// Kernel tracing
+inline constexpr knob trace_buf_16m = {
+    TOOL, "trace_buf_16m", "Set ftrace buffer size per CPU to 16 MB", dt("&chosen { trace-buf-size-kb = <16384>; };"),
+    choice{"ftrace buffer size"}};
+inline constexpr knob trace_buf_size_set = {
+    TOOL, "trace_buf_size_set", "Set ftrace buffer size per CPU in KB (4-65536)",
+    dt_arg("&chosen { trace-buf-size-kb = <0x%x>; };"), choice{"ftrace buffer size"}};
+inline constexpr knob trace_sched_irq_boot = {
+    TOOL, "trace_sched_irq_boot", "Record scheduler and interrupt events from boot",
+    dt(R"(&chosen { trace-event = "sched,irq,ipi"; };)")};
+inline constexpr knob trace_dump_on_oops = {
+    TOOL, "trace_dump_on_oops", "Dump ftrace buffers of all CPUs to console on oops",
+    dt("&chosen { ftrace-dump-on-oops = <1>; };")};
+inline constexpr knob disp_frame_trace = {
+    TOOL, "disp_frame_trace", "Trace frame commit, start and done in ftrace", dt("&dispsys { frame-trace; };")};
+inline constexpr knob gpu_job_trace = {
+    TOOL, "gpu_job_trace", "Trace start and end of GPU jobs in ftrace", dt("&mali { job-trace; };")};
+inline constexpr knob lpm_trace_boot = {
+    TOOL, "lpm_trace_boot", "Enable low-power trace events from boot", dt("&lpm { trace-at-boot; };")};
 
 }  // namespace catalogue

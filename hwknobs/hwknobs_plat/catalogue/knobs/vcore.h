@@ -27,7 +27,7 @@ inline constexpr knob vcore_floor_disp = {
     dt(R"(&vcore_dvfs { display-floor = "max"; };)")};
 inline constexpr knob vcore_dram_decouple = {
     VCORE, "vcore_dram_decouple", "Let DRAM rate and VCORE level change independently",
-    dt(R"(&vcore_dvfs { dram-coupling = "off"; };)")};
+    dt("&vcore_dvfs { dram-coupling-disable; };")};
 inline constexpr knob vcore_timeout_panic = {
     VCORE, "vcore_timeout_panic", "Panic when a VCORE level change times out",
     dt(R"(&vcore_dvfs { change-timeout-action = "panic"; };)")};

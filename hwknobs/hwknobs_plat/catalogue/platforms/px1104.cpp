@@ -27,16 +27,19 @@ constexpr knob rows[] = {
     console_level_set,
     uart_console_disable,
     uart_console_enable,
+    console_suspend_disable,
+    earlycon_enable,
+    uart_shell_set,
+    uart_baud_921600,
     initcall_debug_enable,
     clk_ignore_unused,
     regulator_ignore_unused,
-    trace_buf_16m,
-    trace_sched_irq_boot,
     panic_timeout_set,
     sysrq_enable,
     ramdump_full_enable,
     ramdump_to_usb,
     iommu_fault_panic_enable,
+    emmc_rpm_disable,
 
     // CPU
     boot_core_only,
@@ -120,14 +123,12 @@ constexpr knob rows[] = {
     cabc_disable,
     disp_idle_disable,
     disp_underrun_red,
-    disp_frame_trace,
     dsi_bist_boot,
     boot_logo_disable,
     pq_bypass,
 
     // LPM: low power
     suspend_disable,
-    console_suspend_disable,
     pm_print_times,
     pm_test_set,
     wakelock_log,
@@ -135,19 +136,18 @@ constexpr knob rows[] = {
     soc_idle_disable,
     clk26m_keep,
     idle_self_refresh_disable,
-    clkgate_bus_disable,
-    emmc_rpm_disable,
+    bus_clock_gating_disable,
 
     // TOOL: logs, trace and bring-up
-    earlycon_enable,
-    uart_shell_set,
-    uart_baud_921600,
-    loader_log_verbose,
+    bootloader_log_verbose,
     log_store_enable,
     boot_reason_print,
     boot_profile_enable,
     jtag_pins_enable,
     last_pc_print,
+    trace_buf_16m,
+    trace_sched_irq_boot,
+    disp_frame_trace,
 };
 
 }  // namespace

@@ -32,11 +32,13 @@ constexpr knob rows[] = {
     uart_console_disable,
     uart_console_enable,
     log_buf_8m,
+    console_suspend_disable,
+    earlycon_enable,
+    uart_shell_set,
+    uart_baud_921600,
     initcall_debug_enable,
     clk_ignore_unused,
     regulator_ignore_unused,
-    trace_buf_16m,
-    trace_sched_irq_boot,
     panic_timeout_set,
     panic_on_warn_enable,
     sysrq_enable,
@@ -46,6 +48,7 @@ constexpr knob rows[] = {
     iommu_fault_panic_enable,
     irq_handler_warn_10ms,
     emmc_hs400_disable,
+    emmc_rpm_disable,
 
     // CPU
     boot_core_only,
@@ -59,7 +62,7 @@ constexpr knob rows[] = {
     cluster_fix<"big", 2106>,
     big_cap_set<845, 2106>,
     hmp_disable,
-    isolate_big<"4-7">,
+    big_isolate<"4-7">,
     cpuidle_disable,
     core_off_disable,
     little_cluster_off_disable,
@@ -129,7 +132,7 @@ constexpr knob rows[] = {
     gpu_policy_coarse_demand,
     gpu_one_core,
     enable_gpu_acp,
-    disable_gpu_coherency,
+    gpu_coherency_disable,
     gpu_soft_stop_disable,
     gpu_reset_dump,
     gpu_mmu_fault_panic,
@@ -153,14 +156,12 @@ constexpr knob rows[] = {
     disp_idle_disable,
     disp_underrun_red,
     disp_underrun_panic,
-    disp_frame_trace,
     dsi_bist_boot,
     boot_logo_disable,
     pq_bypass,
 
     // LPM: low power
     suspend_disable,
-    console_suspend_disable,
     pm_print_times,
     pm_async_disable,
     pm_test_set,
@@ -172,14 +173,10 @@ constexpr knob rows[] = {
     vcore_lp_disable,
     sleep_count_log,
     spm_firmware_skip,
-    clkgate_bus_disable,
-    emmc_rpm_disable,
+    bus_clock_gating_disable,
 
     // TOOL: logs, trace and bring-up
-    earlycon_enable,
-    uart_shell_set,
-    uart_baud_921600,
-    loader_log_verbose,
+    bootloader_log_verbose,
     log_store_enable,
     boot_profile_enable,
     adb_early_start,
@@ -188,6 +185,9 @@ constexpr knob rows[] = {
     etm_enable<4>,
     etb_enable,
     perf_stat_events,
+    trace_buf_16m,
+    trace_sched_irq_boot,
+    disp_frame_trace,
 };
 
 }  // namespace

@@ -34,11 +34,14 @@ constexpr knob rows[] = {
     console_level_set,
     uart_console_disable,
     uart_console_enable,
+    console_suspend_disable,
+    earlycon_enable,
+    uart_shell_set,
+    uart_baud_921600,
     dyndbg_set,
     initcall_debug_enable,
     clk_ignore_unused,
     regulator_ignore_unused,
-    trace_sched_irq_boot,
     panic_timeout_set,
     panic_on_warn_enable,
     sysrq_enable,
@@ -48,6 +51,7 @@ constexpr knob rows[] = {
     iommu_fault_panic_enable,
     emmc_hs400_disable,
     emmc_clk_50mhz,
+    emmc_rpm_disable,
 
     // CPU
     boot_core_only,
@@ -161,7 +165,6 @@ constexpr knob rows[] = {
     disp_idle_disable,
     ovl_single_layer,
     disp_underrun_red,
-    disp_frame_trace,
     dsi_bist_boot,
     boot_logo_disable,
     pq_bypass,
@@ -176,7 +179,6 @@ constexpr knob rows[] = {
 
     // LPM: low power
     suspend_disable,
-    console_suspend_disable,
     pm_print_times,
     pm_test_set,
     dpm_watchdog_set,
@@ -190,14 +192,10 @@ constexpr knob rows[] = {
     vcore_lp_disable,
     sleep_count_log,
     spm_log_enable,
-    clkgate_bus_disable,
-    emmc_rpm_disable,
+    bus_clock_gating_disable,
 
     // TOOL: logs, trace and bring-up
-    earlycon_enable,
-    uart_shell_set,
-    uart_baud_921600,
-    loader_log_verbose,
+    bootloader_log_verbose,
     log_store_enable,
     boot_reason_print,
     boot_profile_enable,
@@ -207,6 +205,8 @@ constexpr knob rows[] = {
     etf_enable,
     perf_stat_events,
     perf_paranoid_set,
+    trace_sched_irq_boot,
+    disp_frame_trace,
 };
 
 }  // namespace

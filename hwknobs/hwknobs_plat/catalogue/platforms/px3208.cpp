@@ -36,11 +36,14 @@ constexpr knob rows[] = {
     console_level_set,
     uart_console_disable,
     uart_console_enable,
+    console_suspend_disable,
+    earlycon_enable,
+    uart_shell_set,
+    uart_baud_921600,
     dyndbg_set,
     initcall_debug_enable,
     clk_ignore_unused,
     regulator_ignore_unused,
-    trace_sched_irq_boot,
     panic_timeout_set,
     panic_on_oops_disable,
     panic_on_warn_enable,
@@ -53,6 +56,7 @@ constexpr knob rows[] = {
     irq_handler_warn_10ms,
     emmc_hs400_disable,
     emmc_clk_50mhz,
+    emmc_rpm_disable,
 
     // CPU
     boot_core_only,
@@ -70,7 +74,7 @@ constexpr knob rows[] = {
     eas_disable,
     walt_disable,
     schedtune_disable,
-    isolate_big<"4-7">,
+    big_isolate<"4-7">,
     cpuidle_disable,
     core_off_disable,
     big_cluster_off_disable,
@@ -153,7 +157,7 @@ constexpr knob rows[] = {
     gpu_one_core,
     gpu_clock_gating_disable,
     enable_gpu_acp,
-    disable_gpu_coherency,
+    gpu_coherency_disable,
     gpu_soft_stop_disable,
     gpu_reset_dump,
     gpu_mmu_fault_panic,
@@ -177,7 +181,6 @@ constexpr knob rows[] = {
     disp_idle_disable,
     ovl_single_layer,
     disp_underrun_red,
-    disp_frame_trace,
     dsi_bist_boot,
     boot_logo_disable,
     pq_bypass,
@@ -194,7 +197,6 @@ constexpr knob rows[] = {
 
     // LPM: low power
     suspend_disable,
-    console_suspend_disable,
     pm_print_times,
     pm_async_disable,
     pm_test_set,
@@ -210,14 +212,10 @@ constexpr knob rows[] = {
     sleep_count_log,
     spm_log_enable,
     spm_firmware_skip,
-    clkgate_bus_disable,
-    emmc_rpm_disable,
+    bus_clock_gating_disable,
 
     // TOOL: logs, trace and bring-up
-    earlycon_enable,
-    uart_shell_set,
-    uart_baud_921600,
-    loader_log_verbose,
+    bootloader_log_verbose,
     log_store_enable,
     boot_reason_print,
     boot_profile_enable,
@@ -229,6 +227,8 @@ constexpr knob rows[] = {
     perf_stat_events,
     perf_paranoid_set,
     pmu_idle_keep,
+    trace_sched_irq_boot,
+    disp_frame_trace,
 };
 
 }  // namespace

@@ -35,11 +35,14 @@ constexpr knob rows[] = {
     console_level_set,
     uart_console_disable,
     uart_console_enable,
+    console_suspend_disable,
+    earlycon_enable,
+    uart_shell_set,
+    uart_baud_921600,
     dyndbg_set,
     initcall_debug_enable,
     clk_ignore_unused,
     regulator_ignore_unused,
-    trace_sched_irq_boot,
     panic_timeout_set,
     panic_on_warn_enable,
     sysrq_enable,
@@ -50,6 +53,7 @@ constexpr knob rows[] = {
     iommu_fault_panic_enable,
     emmc_hs400_disable,
     emmc_clk_50mhz,
+    emmc_rpm_disable,
 
     // CPU
     boot_core_only,
@@ -66,7 +70,7 @@ constexpr knob rows[] = {
     eas_disable,
     walt_disable,
     schedtune_disable,
-    isolate_big<"4-7">,
+    big_isolate<"4-7">,
     cpuidle_disable,
     big_cluster_off_disable,
     cci_fix_max,
@@ -144,7 +148,7 @@ constexpr knob rows[] = {
     gpu_policy_coarse_demand,
     gpu_clock_gating_disable,
     enable_gpu_acp,
-    disable_gpu_coherency,
+    gpu_coherency_disable,
     gpu_soft_stop_disable,
     gpu_reset_dump,
     gpu_mmu_fault_panic,
@@ -166,7 +170,6 @@ constexpr knob rows[] = {
     ovl_single_layer,
     disp_underrun_red,
     disp_underrun_action_set,
-    disp_frame_trace,
     dsi_bist_boot,
     boot_logo_disable,
     pq_bypass,
@@ -183,7 +186,6 @@ constexpr knob rows[] = {
 
     // LPM: low power
     suspend_disable,
-    console_suspend_disable,
     pm_print_times,
     pm_test_set,
     wakelock_log,
@@ -197,14 +199,10 @@ constexpr knob rows[] = {
     resource_req_log,
     sleep_count_log,
     spm_log_enable,
-    clkgate_bus_disable,
-    emmc_rpm_disable,
+    bus_clock_gating_disable,
 
     // TOOL: logs, trace and bring-up
-    earlycon_enable,
-    uart_shell_set,
-    uart_baud_921600,
-    loader_log_verbose,
+    bootloader_log_verbose,
     log_store_enable,
     boot_profile_enable,
     adb_early_start,
@@ -215,6 +213,8 @@ constexpr knob rows[] = {
     etf_enable,
     perf_stat_events,
     perf_paranoid_set,
+    trace_sched_irq_boot,
+    disp_frame_trace,
 };
 
 }  // namespace

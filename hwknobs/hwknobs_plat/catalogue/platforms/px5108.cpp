@@ -38,11 +38,14 @@ constexpr knob rows[] = {
     uart_console_disable,
     uart_console_enable,
     log_buf_8m,
+    console_suspend_disable,
+    earlycon_enable,
+    uart_shell_set,
+    uart_baud_921600,
     dyndbg_set,
     initcall_debug_enable,
     clk_ignore_unused,
     regulator_ignore_unused,
-    trace_sched_irq_boot,
     panic_timeout_set,
     panic_on_warn_enable,
     sysrq_enable,
@@ -54,6 +57,7 @@ constexpr knob rows[] = {
     irq_handler_warn_10ms,
     emmc_hs400_disable,
     emmc_clk_50mhz,
+    emmc_rpm_disable,
 
     // CPU
     boot_core_only,
@@ -72,7 +76,7 @@ constexpr knob rows[] = {
     walt_disable,
     schedtune_disable,
     misfit_disable,
-    isolate_big<"4-7">,
+    big_isolate<"4-7">,
     cpuidle_disable,
     core_off_disable,
     big_cluster_off_disable,
@@ -156,9 +160,9 @@ constexpr knob rows[] = {
     gpu_policy_coarse_demand,
     gpu_clock_gating_disable,
     enable_gpu_acp,
-    disable_gpu_coherency,
+    gpu_coherency_disable,
     gpu_soft_stop_disable,
-    gpu_serialize_jobs,
+    gpu_jobs_serialize,
     gpu_reset_dump,
     gpu_mmu_fault_panic,
     gpu_exception_mask_set,
@@ -182,7 +186,6 @@ constexpr knob rows[] = {
     ovl_single_layer,
     disp_underrun_red,
     disp_underrun_action_set,
-    disp_frame_trace,
     drm_debug_mask_set<"0x1ff">,
     dsi_bist_boot,
     boot_logo_disable,
@@ -200,7 +203,6 @@ constexpr knob rows[] = {
 
     // LPM: low power
     suspend_disable,
-    console_suspend_disable,
     pm_print_times,
     pm_debug_messages,
     pm_test_set,
@@ -217,14 +219,10 @@ constexpr knob rows[] = {
     resource_req_log,
     sleep_count_log,
     spm_log_enable,
-    clkgate_bus_disable,
-    emmc_rpm_disable,
+    bus_clock_gating_disable,
 
     // TOOL: logs, trace and bring-up
-    earlycon_enable,
-    uart_shell_set,
-    uart_baud_921600,
-    loader_log_verbose,
+    bootloader_log_verbose,
     log_store_enable,
     boot_reason_print,
     boot_profile_enable,
@@ -237,6 +235,8 @@ constexpr knob rows[] = {
     perf_stat_events,
     perf_paranoid_set,
     conn_log_enable,
+    trace_sched_irq_boot,
+    disp_frame_trace,
 };
 
 }  // namespace

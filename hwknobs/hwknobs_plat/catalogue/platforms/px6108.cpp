@@ -40,13 +40,15 @@ constexpr row rows[] = {
     {19, uart_console_disable},
     {20, uart_console_enable},
     {21, log_buf_8m},
+    {199, console_suspend_disable},
+    {221, earlycon_enable},
+    {222, uart_shell_set},
+    {223, uart_baud_921600},
     {22, dyndbg_set},
     {23, initcall_debug_enable},
     {24, fw_devlink_set},
     {26, clk_ignore_unused},
     {27, regulator_ignore_unused},
-    {28, trace_sched_irq_boot},
-    {29, trace_dump_on_oops},
     {31, panic_timeout_set},
     {32, panic_on_warn_enable},
     {33, panic_print_set<"0x3f">},
@@ -60,6 +62,7 @@ constexpr row rows[] = {
     {42, pseudo_nmi_enable},
     {43, emmc_hs400_disable},
     {44, emmc_clk_50mhz},
+    {214, emmc_rpm_disable},
 
     // CPU
     {45, boot_core_only},
@@ -78,7 +81,7 @@ constexpr row rows[] = {
     {59, eas_disable},
     {60, uclamp_disable},
     {61, misfit_disable},
-    {62, isolate_big<"6-7">},
+    {62, big_isolate<"6-7">},
     {63, sched_feature_set},
     {64, cpuidle_disable},
     {65, core_off_disable},
@@ -177,13 +180,12 @@ constexpr row rows[] = {
     {144, gpu_policy_adaptive_set},
     {152, gpu_clock_gating_disable},
     {153, enable_gpu_acp},
-    {154, disable_gpu_coherency},
+    {154, gpu_coherency_disable},
     {155, gpu_soft_stop_disable},
-    {156, gpu_serialize_jobs},
+    {156, gpu_jobs_serialize},
     {157, gpu_reset_dump},
     {158, gpu_mmu_fault_panic},
     {159, gpu_exception_mask_set},
-    {160, gpu_job_trace},
     {161, gpu_counters_enable},
     {162, gpu_afbc_disable},
 
@@ -204,7 +206,6 @@ constexpr row rows[] = {
     {178, ovl_single_layer},
     {179, disp_underrun_red},
     {180, disp_underrun_action_set},
-    {181, disp_frame_trace},
     {182, drm_debug_mask_set<"0x3ff">},
     {183, dsi_bist_boot},
     {184, boot_logo_disable},
@@ -227,7 +228,6 @@ constexpr row rows[] = {
 
     // LPM: low power
     {198, suspend_disable},
-    {199, console_suspend_disable},
     {200, pm_print_times},
     {201, pm_test_set},
     {202, wakelock_log},
@@ -241,8 +241,7 @@ constexpr row rows[] = {
     {210, resource_req_log},
     {211, sleep_count_log},
     {212, spm_log_enable},
-    {213, clkgate_bus_disable},
-    {214, emmc_rpm_disable},
+    {213, bus_clock_gating_disable},
 
     // HYP: hypervisor and secure world
     {215, pkvm_enable},
@@ -253,10 +252,7 @@ constexpr row rows[] = {
     {220, el3_log_set},
 
     // TOOL: logs, trace and bring-up
-    {221, earlycon_enable},
-    {222, uart_shell_set},
-    {223, uart_baud_921600},
-    {224, loader_log_verbose},
+    {224, bootloader_log_verbose},
     {225, log_store_enable},
     {226, boot_reason_print},
     {227, boot_profile_enable},
@@ -271,6 +267,10 @@ constexpr row rows[] = {
     {238, dsu_pmu_enable},
     {239, thermal_log_1s},
     {240, conn_log_enable},
+    {28, trace_sched_irq_boot},
+    {29, trace_dump_on_oops},
+    {160, gpu_job_trace},
+    {181, disp_frame_trace},
 };
 
 }  // namespace

@@ -40,13 +40,15 @@ constexpr row rows[] = {
     {20, uart_console_disable},
     {21, uart_console_enable},
     {22, log_buf_8m},
+    {216, console_suspend_disable},
+    {239, earlycon_enable},
+    {240, uart_shell_set},
+    {241, uart_baud_921600},
     {23, dyndbg_set},
     {24, initcall_debug_enable},
     {25, fw_devlink_set},
     {26, clk_ignore_unused},
     {27, regulator_ignore_unused},
-    {28, trace_sched_irq_boot},
-    {29, trace_dump_on_oops},
     {31, panic_timeout_set},
     {32, panic_on_oops_disable},
     {33, panic_on_warn_enable},
@@ -81,7 +83,7 @@ constexpr row rows[] = {
     {60, eas_disable},
     {61, uclamp_disable},
     {62, misfit_disable},
-    {63, isolate_big<"6-7">},
+    {63, big_isolate<"6-7">},
     {65, sched_feature_set},
     {66, cpuidle_disable},
     {67, core_off_disable},
@@ -186,13 +188,12 @@ constexpr row rows[] = {
     {163, gpu_one_core},
     {164, gpu_clock_gating_disable},
     {166, enable_gpu_acp},
-    {167, disable_gpu_coherency},
+    {167, gpu_coherency_disable},
     {168, gpu_soft_stop_disable},
-    {169, gpu_serialize_jobs},
+    {169, gpu_jobs_serialize},
     {170, gpu_reset_dump},
     {172, gpu_mmu_fault_panic},
     {173, gpu_exception_mask_set},
-    {174, gpu_job_trace},
     {175, gpu_counters_enable},
     {176, gpu_afbc_disable},
 
@@ -215,7 +216,6 @@ constexpr row rows[] = {
     {195, ovl_single_layer},
     {196, disp_underrun_red},
     {197, disp_underrun_action_set},
-    {198, disp_frame_trace},
     {199, drm_debug_mask_set<"0x3ff">},
     {200, dsi_bist_boot},
     {201, boot_logo_disable},
@@ -238,7 +238,6 @@ constexpr row rows[] = {
 
     // LPM: low power
     {215, suspend_disable},
-    {216, console_suspend_disable},
     {217, pm_print_times},
     {218, pm_test_set},
     {219, dpm_watchdog_set},
@@ -254,7 +253,7 @@ constexpr row rows[] = {
     {229, resource_req_log},
     {230, sleep_count_log},
     {231, spm_log_enable},
-    {232, clkgate_bus_disable},
+    {232, bus_clock_gating_disable},
 
     // HYP: hypervisor and secure world
     {233, pkvm_enable},
@@ -265,10 +264,7 @@ constexpr row rows[] = {
     {238, el3_log_set},
 
     // TOOL: logs, trace and bring-up
-    {239, earlycon_enable},
-    {240, uart_shell_set},
-    {241, uart_baud_921600},
-    {242, loader_log_verbose},
+    {242, bootloader_log_verbose},
     {243, log_store_enable},
     {245, boot_reason_print},
     {246, boot_profile_enable},
@@ -284,6 +280,10 @@ constexpr row rows[] = {
     {257, dsu_pmu_enable},
     {258, thermal_log_1s},
     {259, conn_log_enable},
+    {28, trace_sched_irq_boot},
+    {29, trace_dump_on_oops},
+    {174, gpu_job_trace},
+    {198, disp_frame_trace},
 };
 
 }  // namespace

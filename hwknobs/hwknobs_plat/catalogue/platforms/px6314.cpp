@@ -43,13 +43,15 @@ constexpr row rows[] = {
     {23, uart_console_disable},
     {24, uart_console_enable},
     {25, log_buf_8m},
+    {239, console_suspend_disable},
+    {265, earlycon_enable},
+    {266, uart_shell_set},
+    {267, uart_baud_921600},
     {26, dyndbg_set},
     {27, initcall_debug_enable},
     {28, fw_devlink_set},
     {29, clk_ignore_unused},
     {30, regulator_ignore_unused},
-    {31, trace_sched_irq_boot},
-    {32, trace_dump_on_oops},
     {33, panic_timeout_set},
     {34, panic_on_oops_disable},
     {35, panic_on_warn_enable},
@@ -68,7 +70,7 @@ constexpr row rows[] = {
     {48, pseudo_nmi_enable},
     {49, ufs_gear_1},
     {51, ufs_hibern8_disable},
-    {52, ufs_clk_gating_disable},
+    {52, ufs_clock_gating_disable},
 
     // CPU
     {53, boot_core_only},
@@ -89,7 +91,7 @@ constexpr row rows[] = {
     {70, eas_disable},
     {71, uclamp_disable},
     {72, misfit_disable},
-    {74, isolate_big<"7">},
+    {74, big_isolate<"7">},
     {75, sched_feature_set},
     {76, cpuidle_disable},
     {77, core_off_disable},
@@ -205,14 +207,13 @@ constexpr row rows[] = {
     {182, gpu_one_core},
     {183, gpu_clock_gating_disable},
     {185, enable_gpu_acp},
-    {187, disable_gpu_coherency},
+    {187, gpu_coherency_disable},
     {188, gpu_soft_stop_disable},
     {189, gpu_hard_stop_disable},
-    {190, gpu_serialize_jobs},
+    {190, gpu_jobs_serialize},
     {191, gpu_reset_dump},
     {193, gpu_mmu_fault_panic},
     {194, gpu_exception_mask_set},
-    {195, gpu_job_trace},
     {196, gpu_counters_enable},
     {197, gpu_afbc_disable},
 
@@ -238,7 +239,6 @@ constexpr row rows[] = {
     {217, ovl_single_layer},
     {218, disp_underrun_red},
     {219, disp_underrun_action_set},
-    {220, disp_frame_trace},
     {221, drm_debug_mask_set<"0x3ff">},
     {222, dsi_bist_boot},
     {223, boot_logo_disable},
@@ -262,7 +262,6 @@ constexpr row rows[] = {
 
     // LPM: low power
     {238, suspend_disable},
-    {239, console_suspend_disable},
     {240, pm_print_times},
     {241, pm_debug_messages},
     {242, pm_test_set},
@@ -280,7 +279,7 @@ constexpr row rows[] = {
     {254, resource_req_log},
     {255, sleep_count_log},
     {256, spm_log_enable},
-    {257, clkgate_bus_disable},
+    {257, bus_clock_gating_disable},
 
     // HYP: hypervisor and secure world
     {258, pkvm_enable},
@@ -292,10 +291,7 @@ constexpr row rows[] = {
     {264, el3_log_set},
 
     // TOOL: logs, trace and bring-up
-    {265, earlycon_enable},
-    {266, uart_shell_set},
-    {267, uart_baud_921600},
-    {268, loader_log_verbose},
+    {268, bootloader_log_verbose},
     {269, log_store_enable},
     {270, boot_reason_print},
     {271, boot_profile_enable},
@@ -313,6 +309,10 @@ constexpr row rows[] = {
     {283, dsu_pmu_enable},
     {284, thermal_log_1s},
     {285, conn_log_enable},
+    {31, trace_sched_irq_boot},
+    {32, trace_dump_on_oops},
+    {195, gpu_job_trace},
+    {220, disp_frame_trace},
 };
 
 }  // namespace

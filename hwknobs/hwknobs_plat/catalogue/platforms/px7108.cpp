@@ -41,15 +41,16 @@ constexpr row rows[] = {
     {20, uart_console_disable},
     {21, uart_console_enable},
     {22, log_buf_8m},
+    {225, console_suspend_disable},
+    {252, earlycon_enable},
+    {253, uart_shell_set},
+    {254, uart_baud_921600},
     {23, hash_pointers_disable},
     {24, dyndbg_set},
     {25, initcall_debug_enable},
     {27, fw_devlink_set},
     {28, clk_ignore_unused},
     {30, regulator_ignore_unused},
-    {31, trace_buf_size_set},
-    {32, trace_sched_irq_boot},
-    {33, trace_dump_on_oops},
     {34, panic_timeout_set},
     {35, panic_on_oops_disable},
     {36, panic_on_warn_enable},
@@ -86,7 +87,7 @@ constexpr row rows[] = {
     {67, pelt_halflife_8ms},
     {68, uclamp_disable},
     {69, misfit_disable},
-    {70, isolate_big<"4-7">},
+    {70, big_isolate<"4-7">},
     {71, sched_feature_set},
     {72, cpuidle_disable},
     {73, core_off_disable},
@@ -197,7 +198,7 @@ constexpr row rows[] = {
     {173, gpu_clock_gating_disable},
     {174, gpu_sleep_disable},
     {175, enable_gpu_acp},
-    {176, disable_gpu_coherency},
+    {176, gpu_coherency_disable},
     {177, gpu_csf_fw_timeout_set},
     {178, gpu_csf_fw_core_dump},
     {179, gpu_reset_dump},
@@ -227,7 +228,6 @@ constexpr row rows[] = {
     {205, ovl_single_layer},
     {206, disp_underrun_red},
     {207, disp_underrun_action_set},
-    {208, disp_frame_trace},
     {209, drm_debug_mask_set<"0x3ff">},
     {210, dsi_bist_boot},
     {211, boot_logo_disable},
@@ -250,7 +250,6 @@ constexpr row rows[] = {
 
     // LPM: low power
     {224, suspend_disable},
-    {225, console_suspend_disable},
     {226, pm_print_times},
     {227, pm_debug_messages},
     {228, pm_test_set},
@@ -267,7 +266,7 @@ constexpr row rows[] = {
     {239, resource_req_log},
     {240, sleep_count_log},
     {241, spm_log_enable},
-    {242, clkgate_bus_disable},
+    {242, bus_clock_gating_disable},
 
     // HYP: hypervisor and secure world
     {243, pkvm_enable},
@@ -279,10 +278,7 @@ constexpr row rows[] = {
     {251, el3_log_set},
 
     // TOOL: logs, trace and bring-up
-    {252, earlycon_enable},
-    {253, uart_shell_set},
-    {254, uart_baud_921600},
-    {256, loader_log_verbose},
+    {256, bootloader_log_verbose},
     {257, log_store_enable},
     {259, boot_reason_print},
     {260, boot_profile_enable},
@@ -300,6 +296,10 @@ constexpr row rows[] = {
     {272, dsu_pmu_enable},
     {273, thermal_log_1s},
     {274, conn_log_enable},
+    {31, trace_buf_size_set},
+    {32, trace_sched_irq_boot},
+    {33, trace_dump_on_oops},
+    {208, disp_frame_trace},
 };
 
 }  // namespace

@@ -44,15 +44,16 @@ constexpr row rows[] = {
     {22, uart_console_disable},
     {23, uart_console_enable},
     {24, log_buf_8m},
+    {250, console_suspend_disable},
+    {281, earlycon_enable},
+    {282, uart_shell_set},
+    {284, uart_baud_921600},
     {25, hash_pointers_disable},
     {26, dyndbg_set},
     {27, initcall_debug_enable},
     {28, fw_devlink_set},
     {29, clk_ignore_unused},
     {30, regulator_ignore_unused},
-    {31, trace_buf_size_set},
-    {32, trace_sched_irq_boot},
-    {33, trace_dump_on_oops},
     {34, panic_timeout_set},
     {35, panic_on_oops_disable},
     {36, panic_on_warn_enable},
@@ -72,7 +73,7 @@ constexpr row rows[] = {
     {50, pseudo_nmi_enable},
     {51, ufs_gear_1},
     {52, ufs_hibern8_disable},
-    {53, ufs_clk_gating_disable},
+    {53, ufs_clock_gating_disable},
 
     // CPU
     {54, boot_core_only},
@@ -94,7 +95,7 @@ constexpr row rows[] = {
     {71, pelt_halflife_8ms},
     {73, uclamp_disable},
     {74, misfit_disable},
-    {75, isolate_big<"7">},
+    {75, big_isolate<"7">},
     {76, sched_feature_set},
     {78, cpuidle_disable},
     {79, core_off_disable},
@@ -221,7 +222,7 @@ constexpr row rows[] = {
     {193, gpu_clock_gating_disable},
     {194, gpu_sleep_disable},
     {195, enable_gpu_acp},
-    {196, disable_gpu_coherency},
+    {196, gpu_coherency_disable},
     {197, gpu_csf_fw_timeout_set},
     {198, gpu_csf_progress_disable},
     {199, gpu_csf_fw_core_dump},
@@ -255,7 +256,6 @@ constexpr row rows[] = {
     {228, ovl_single_layer},
     {229, disp_underrun_red},
     {230, disp_underrun_action_set},
-    {231, disp_frame_trace},
     {232, drm_debug_mask_set<"0x3ff">},
     {233, dsi_bist_boot},
     {234, boot_logo_disable},
@@ -280,7 +280,6 @@ constexpr row rows[] = {
     // LPM: low power
     {248, suspend_disable},
     {249, suspend_s2idle},
-    {250, console_suspend_disable},
     {251, pm_print_times},
     {252, pm_debug_messages},
     {253, pm_test_set},
@@ -298,7 +297,7 @@ constexpr row rows[] = {
     {267, resource_req_log},
     {268, sleep_count_log},
     {270, spm_log_enable},
-    {272, clkgate_bus_disable},
+    {272, bus_clock_gating_disable},
 
     // HYP: hypervisor and secure world
     {273, pkvm_enable},
@@ -311,10 +310,7 @@ constexpr row rows[] = {
     {280, el3_log_set},
 
     // TOOL: logs, trace and bring-up
-    {281, earlycon_enable},
-    {282, uart_shell_set},
-    {284, uart_baud_921600},
-    {285, loader_log_verbose},
+    {285, bootloader_log_verbose},
     {286, log_store_enable},
     {287, boot_reason_print},
     {288, boot_profile_enable},
@@ -334,6 +330,10 @@ constexpr row rows[] = {
     {303, thermal_log_1s},
     {304, conn_log_enable},
     {305, sensorhub_log_enable},
+    {31, trace_buf_size_set},
+    {32, trace_sched_irq_boot},
+    {33, trace_dump_on_oops},
+    {231, disp_frame_trace},
 };
 
 }  // namespace

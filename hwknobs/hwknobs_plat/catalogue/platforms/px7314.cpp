@@ -46,15 +46,16 @@ constexpr row rows[] = {
     {23, uart_console_disable},
     {24, uart_console_enable},
     {25, log_buf_8m},
+    {261, console_suspend_disable},
+    {290, earlycon_enable},
+    {291, uart_shell_set},
+    {292, uart_baud_921600},
     {27, hash_pointers_disable},
     {28, dyndbg_set},
     {29, initcall_debug_enable},
     {30, fw_devlink_set},
     {31, clk_ignore_unused},
     {32, regulator_ignore_unused},
-    {33, trace_buf_size_set},
-    {34, trace_sched_irq_boot},
-    {36, trace_dump_on_oops},
     {37, panic_timeout_set},
     {38, panic_on_oops_disable},
     {39, panic_on_warn_enable},
@@ -75,7 +76,7 @@ constexpr row rows[] = {
     {55, pseudo_nmi_enable},
     {56, ufs_gear_1},
     {57, ufs_hibern8_disable},
-    {58, ufs_clk_gating_disable},
+    {58, ufs_clock_gating_disable},
 
     // CPU
     {60, boot_core_only},
@@ -97,7 +98,7 @@ constexpr row rows[] = {
     {76, pelt_halflife_8ms},
     {78, uclamp_disable},
     {79, misfit_disable},
-    {80, isolate_big<"7">},
+    {80, big_isolate<"7">},
     {81, sched_feature_set},
     {82, cpuidle_disable},
     {83, core_off_disable},
@@ -229,7 +230,7 @@ constexpr row rows[] = {
     {200, gpu_clock_gating_disable},
     {201, gpu_sleep_disable},
     {202, enable_gpu_acp},
-    {203, disable_gpu_coherency},
+    {203, gpu_coherency_disable},
     {204, gpu_csf_fw_timeout_set},
     {205, gpu_csf_progress_disable},
     {206, gpu_csf_fw_core_dump},
@@ -264,7 +265,6 @@ constexpr row rows[] = {
     {236, ovl_afbc_disable},
     {238, disp_underrun_red},
     {239, disp_underrun_action_set},
-    {240, disp_frame_trace},
     {241, drm_debug_mask_set<"0x3ff">},
     {242, dsi_bist_boot},
     {243, boot_logo_disable},
@@ -277,7 +277,7 @@ constexpr row rows[] = {
     {248, hrt_cam_floor_max},
     {249, hrt_over_log},
     {250, hrt_margin_set},
-    {251, hrt_bandwidth_include_ecc_overhead},
+    {251, hrt_bandwidth_ecc_overhead_include},
 
     // DPSW: power-domain switches
     {252, dpsw_all_on},
@@ -290,7 +290,6 @@ constexpr row rows[] = {
     // LPM: low power
     {259, suspend_disable},
     {260, suspend_s2idle},
-    {261, console_suspend_disable},
     {262, pm_print_times},
     {263, pm_debug_messages},
     {264, pm_test_set},
@@ -308,7 +307,7 @@ constexpr row rows[] = {
     {276, resource_req_log},
     {277, sleep_count_log},
     {278, spm_log_enable},
-    {279, clkgate_bus_disable},
+    {279, bus_clock_gating_disable},
 
     // HYP: hypervisor and secure world
     {280, pkvm_enable},
@@ -322,10 +321,7 @@ constexpr row rows[] = {
     {289, microdroid_debug_full},
 
     // TOOL: logs, trace and bring-up
-    {290, earlycon_enable},
-    {291, uart_shell_set},
-    {292, uart_baud_921600},
-    {293, loader_log_verbose},
+    {293, bootloader_log_verbose},
     {294, log_store_enable},
     {295, boot_reason_print},
     {296, boot_profile_enable},
@@ -346,6 +342,10 @@ constexpr row rows[] = {
     {312, thermal_log_1s},
     {313, conn_log_enable},
     {314, sensorhub_log_enable},
+    {33, trace_buf_size_set},
+    {34, trace_sched_irq_boot},
+    {36, trace_dump_on_oops},
+    {240, disp_frame_trace},
 };
 
 }  // namespace

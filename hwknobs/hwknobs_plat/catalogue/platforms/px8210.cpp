@@ -44,14 +44,16 @@ constexpr row rows[] = {
     {26, uart_console_disable},
     {27, uart_console_enable},
     {28, log_buf_8m},
+    {242, console_suspend_disable},
+    {272, earlycon_enable},
+    {273, uart_shell_set},
+    {274, uart_baud_921600},
     {29, hash_pointers_disable},
     {30, dyndbg_set},
     {31, initcall_debug_enable},
     {33, fw_devlink_set},
     {34, clk_ignore_unused},
     {35, regulator_ignore_unused},
-    {36, trace_sched_irq_boot},
-    {37, trace_dump_on_oops},
     {38, panic_timeout_set},
     {39, panic_on_oops_disable},
     {40, panic_on_warn_enable},
@@ -90,7 +92,7 @@ constexpr row rows[] = {
     {73, pelt_halflife_8ms},
     {74, uclamp_disable},
     {75, misfit_disable},
-    {76, isolate_big<"4-7">},
+    {76, big_isolate<"4-7">},
     {77, sched_feature_set},
     {78, cpuidle_disable},
     {79, core_off_disable},
@@ -212,7 +214,7 @@ constexpr row rows[] = {
     {189, gpu_clock_gating_disable},
     {190, gpu_sleep_disable},
     {191, enable_gpu_acp},
-    {192, disable_gpu_coherency},
+    {192, gpu_coherency_disable},
     {193, gpu_csf_fw_timeout_set},
     {194, gpu_csf_fw_core_dump},
     {195, gpu_reset_dump},
@@ -243,7 +245,6 @@ constexpr row rows[] = {
     {218, ovl_afbc_disable},
     {219, disp_underrun_red},
     {220, disp_underrun_action_set},
-    {221, disp_frame_trace},
     {222, drm_debug_mask_set<"0x3ff">},
     {223, dsi_bist_boot},
     {224, boot_logo_disable},
@@ -256,7 +257,7 @@ constexpr row rows[] = {
     {229, hrt_cam_floor_max},
     {230, hrt_over_log},
     {231, hrt_margin_set},
-    {232, hrt_bandwidth_include_ecc_overhead},
+    {232, hrt_bandwidth_ecc_overhead_include},
 
     // DPSW: power-domain switches
     {233, dpsw_all_on},
@@ -268,7 +269,6 @@ constexpr row rows[] = {
 
     // LPM: low power
     {241, suspend_disable},
-    {242, console_suspend_disable},
     {243, pm_print_times},
     {244, pm_debug_messages},
     {245, pm_test_set},
@@ -285,7 +285,7 @@ constexpr row rows[] = {
     {258, resource_req_log},
     {259, sleep_count_log},
     {260, spm_log_enable},
-    {261, clkgate_bus_disable},
+    {261, bus_clock_gating_disable},
 
     // HYP: hypervisor and secure world
     {262, pkvm_enable},
@@ -299,10 +299,7 @@ constexpr row rows[] = {
     {271, hyp_modules_skip},
 
     // TOOL: logs, trace and bring-up
-    {272, earlycon_enable},
-    {273, uart_shell_set},
-    {274, uart_baud_921600},
-    {275, loader_log_verbose},
+    {275, bootloader_log_verbose},
     {276, log_store_enable},
     {277, boot_reason_print},
     {278, boot_profile_enable},
@@ -321,6 +318,9 @@ constexpr row rows[] = {
     {292, dsu_pmu_enable},
     {293, thermal_log_1s},
     {294, conn_log_enable},
+    {36, trace_sched_irq_boot},
+    {37, trace_dump_on_oops},
+    {221, disp_frame_trace},
 };
 
 }  // namespace

@@ -47,15 +47,16 @@ constexpr row rows[] = {
     {26, uart_console_disable},
     {27, uart_console_enable},
     {29, log_buf_8m},
+    {280, console_suspend_disable},
+    {312, earlycon_enable},
+    {313, uart_shell_set},
+    {314, uart_baud_921600},
     {30, hash_pointers_disable},
     {31, dyndbg_set},
     {32, initcall_debug_enable},
     {33, fw_devlink_set},
     {34, clk_ignore_unused},
     {35, regulator_ignore_unused},
-    {36, trace_buf_size_set},
-    {38, trace_sched_irq_boot},
-    {39, trace_dump_on_oops},
     {40, panic_timeout_set},
     {41, panic_on_oops_disable},
     {42, panic_on_warn_enable},
@@ -75,7 +76,7 @@ constexpr row rows[] = {
     {57, pseudo_nmi_enable},
     {58, ufs_gear_1},
     {59, ufs_hibern8_disable},
-    {60, ufs_clk_gating_disable},
+    {60, ufs_clock_gating_disable},
     {61, ufs_write_booster_disable},
 
     // CPU
@@ -98,7 +99,7 @@ constexpr row rows[] = {
     {80, pelt_halflife_8ms},
     {81, uclamp_disable},
     {82, misfit_disable},
-    {83, isolate_big<"7">},
+    {83, big_isolate<"7">},
     {84, sched_feature_set},
     {85, cpuidle_disable},
     {86, core_off_disable},
@@ -236,7 +237,7 @@ constexpr row rows[] = {
     {216, gpu_clock_gating_disable},
     {217, gpu_sleep_disable},
     {218, enable_gpu_acp},
-    {219, disable_gpu_coherency},
+    {219, gpu_coherency_disable},
     {220, gpu_csf_fw_timeout_set},
     {221, gpu_csf_progress_disable},
     {222, gpu_csf_fw_core_dump},
@@ -273,7 +274,6 @@ constexpr row rows[] = {
     {257, ovl_afbc_disable},
     {258, disp_underrun_red},
     {259, disp_underrun_action_set},
-    {260, disp_frame_trace},
     {261, drm_debug_mask_set<"0x3ff">},
     {262, dsi_bist_boot},
     {263, boot_logo_disable},
@@ -286,7 +286,7 @@ constexpr row rows[] = {
     {268, hrt_cam_floor_max},
     {269, hrt_over_log},
     {270, hrt_margin_set},
-    {271, hrt_bandwidth_include_ecc_overhead},
+    {271, hrt_bandwidth_ecc_overhead_include},
 
     // DPSW: power-domain switches
     {272, dpsw_all_on},
@@ -299,7 +299,6 @@ constexpr row rows[] = {
     // LPM: low power
     {278, suspend_disable},
     {279, suspend_s2idle},
-    {280, console_suspend_disable},
     {281, pm_print_times},
     {282, pm_debug_messages},
     {283, pm_test_set},
@@ -317,7 +316,7 @@ constexpr row rows[] = {
     {296, resource_req_log},
     {297, sleep_count_log},
     {298, spm_log_enable},
-    {299, clkgate_bus_disable},
+    {299, bus_clock_gating_disable},
 
     // HYP: hypervisor and secure world
     {300, pkvm_enable},
@@ -332,10 +331,7 @@ constexpr row rows[] = {
     {311, hyp_modules_skip},
 
     // TOOL: logs, trace and bring-up
-    {312, earlycon_enable},
-    {313, uart_shell_set},
-    {314, uart_baud_921600},
-    {315, loader_log_verbose},
+    {315, bootloader_log_verbose},
     {316, log_store_enable},
     {317, boot_reason_print},
     {318, boot_profile_enable},
@@ -357,6 +353,10 @@ constexpr row rows[] = {
     {335, thermal_log_1s},
     {336, conn_log_enable},
     {337, sensorhub_log_enable},
+    {36, trace_buf_size_set},
+    {38, trace_sched_irq_boot},
+    {39, trace_dump_on_oops},
+    {260, disp_frame_trace},
 };
 
 }  // namespace
