@@ -7,7 +7,7 @@ load device
     while IFS='|' read -r body said; do
         compiler dtc <<<"$body"
         run -1 timeout 20 "$device_script" run "$DEV" hwknobs setname kaslr_disable
-        [[ ${output#*randomize-base$'\n'} == "$(printf '%b' "$said")" ]] || { echo "$body: $output"; return 1; }
+        [[ ${output#*randomize-base$'\n'} == "$(printf '%b' "$said")" ]] || fail "$body: $output"
         is_blank
     done <"$data/failing_compilers.txt"
     compiler dtc <<<'cat >/dev/null; exit 1'
@@ -31,7 +31,7 @@ DEBUG: /dts-v1/;"* ]]
     while read -r body; do
         compiler dtc <<<"$body"
         run -0 timeout 20 "$device_script" run "$DEV" hwknobs setname kaslr_disable
-        [[ ${lines[-1]} == "config set ok" && $(bytes 0x804 4) == 00000200 ]] || { echo "$body: $output"; return 1; }
+        [[ ${lines[-1]} == "config set ok" && $(bytes 0x804 4) == 00000200 ]] || fail "$body: $output"
         [[ $(bytes 0x20900 256) == "$(printf '00%.0s' {1..256})" && $(bytes 0x209fc 4) == 00000000 ]]
     done <"$data/odd_compilers.txt"
 }

@@ -16,7 +16,7 @@ setup() {
     mkdir bin nowhere long
     printf '#!/bin/sh\nexec %q run %q hwknobs "$@"\n' "$device_script" "$DEV" >bin/hwknobs
     ln -s "$HWKNOBS" nowhere/hwknobs
-    { echo '#!/bin/sh'; echo "cat <<'END'"; long_list; echo END; } >long/hwknobs
+    printf '%s\n' '#!/bin/sh' "cat <<'END'" "$(long_list)" END >long/hwknobs
     chmod +x bin/hwknobs long/hwknobs
     touch config.xml
 }
@@ -59,7 +59,10 @@ whole_catalogue() {
 @test "completions in bash, zsh and fish" {
     local shell
     for shell in fish zsh bash; do
-        { cat "$data/completions.txt"; if [[ $shell == bash ]]; then whole_catalogue; fi; } >cases
+        {
+            cat "$data/completions.txt"
+            if [[ $shell == bash ]]; then whole_catalogue; fi
+        } >cases
         echo "in $shell:"
         paste -d '|' <(cut -d '|' -f 1 cases) <(cut -d '|' -f 1 cases | complete_in "$shell") | diff cases -
     done

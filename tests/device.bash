@@ -14,6 +14,11 @@ hwknobs() { device run hwknobs "$@"; }
 
 needs_strace() { if [[ $(<"$DEV/.way") == proot* ]]; then skip "strace does not work under proot"; fi; }
 
+fail() {
+    printf '%s\n' "$@"
+    return 1
+}
+
 # expect STATUS OUTPUT COMMAND...: runs the command, which gives exactly this (a final newline aside).
 expect() {
     run "${@:3}"
@@ -28,12 +33,12 @@ expect() {
 # ends_in STATUS LINE COMMAND...: the same for the last line alone.
 ends_in() {
     run "${@:3}"
-    [[ $status == "$1" && ${lines[-1]} == "$2" ]] || { echo "command: ${*:3}"; echo "$status: $output"; return 1; }
+    [[ $status == "$1" && ${lines[-1]} == "$2" ]] || fail "command: ${*:3}" "$status: $output"
 }
 
 # A compiler of that name in the device's data folder, which is the working directory inside. Its body is on stdin.
 compiler() {
-    { echo '#!/bin/sh'; cat; } >"$DEV/data/$1"
+    cat <(echo '#!/bin/sh') - >"$DEV/data/$1"
     chmod +x "$DEV/data/$1"
     export DTCBIN=./$1
 }

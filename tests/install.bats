@@ -19,9 +19,11 @@ setup_file() {
     [[ $output != *warning* ]]
     text=$(mandoc -T ascii -O width=200 "$page" | sed 's/.\x08//g')
     while read -r word; do
-        [[ $text =~ (^|[^a-z-])"$word"($|[^a-z-]) ]] || { echo "not in the manual: $word"; return 1; }
-    done < <(sed -nE 's/^usage hwknobs( \[[^]]*\])* ([a-z-]+).*/\2/p' "$usage"
-        grep -oE '(^|[[[:space:]])--?[a-z][a-z-]*' "$usage" | tr -d '[ \t' | grep -vx -e --option)
+        [[ $text =~ (^|[^a-z-])"$word"($|[^a-z-]) ]] || fail "not in the manual: $word"
+    done < <(
+        sed -nE 's/^usage hwknobs( \[[^]]*\])* ([a-z-]+).*/\2/p' "$usage"
+        grep -oE '(^|[[[:space:]])--?[a-z][a-z-]*' "$usage" | tr -d '[ \t' | grep -vx -e --option
+    )
 }
 
 @test "the examples: as the tool makes them, and they boot" {
@@ -38,6 +40,6 @@ setup_file() {
     if grep -q '^HWKNOBS_SANITIZE:STRING=.' "$HWKNOBS_BUILD/CMakeCache.txt"; then skip "sanitizers find more"; fi
     run -0 readelf -Wld --dyn-syms "$PREFIX/bin/hwknobs"
     for sign in GNU_RELRO BIND_NOW __stack_chk_fail@ __read_chk@; do
-        [[ $output == *"$sign"* ]] || { echo "not seen: $sign"; return 1; }
+        [[ $output == *"$sign"* ]] || fail "not seen: $sign"
     done
 }

@@ -94,7 +94,7 @@ $none" hwknobs --verbose --file=. status --partition
         cp "$DEV/good" "$DEV/boot_para"
         patch "$offset" "$value"
         run -1 hwknobs --verbose status --partition
-        grep -qxF "$said" <<<"$output" || { echo "$offset: $output"; return 1; }
+        grep -qxF "$said" <<<"$output" || fail "$offset: $output"
     done <"$data/damaged_partitions.txt"
     cp "$DEV/good" "$DEV/boot_para"
     patch 0x200 'abcdefghijklmnopqrstuvwxyz12345\0'

@@ -11,12 +11,12 @@ load device
 }
 
 @test "modify, delete and the recovery flag keep what they do not name" {
-    local id
+    local id names
     id=$(id_of lcm_settings)
     hwknobs setname kaslr_disable lcm_settings a1 kmemleak_disable
     run -0 hwknobs setname -m perf_stat_events scycles lcm_settings a9
-    [[ $(sed -n 's/^\tActivate  \([^(]*\).*/\1/p' <<<"$output" | xargs) == \
-        "kaslr_disable lcm_settings kmemleak_disable perf_stat_events" ]]
+    names=$(sed -n 's/^\tActivate  \([^(]*\).*/\1/p' <<<"$output" | xargs)
+    [[ $names == "kaslr_disable lcm_settings kmemleak_disable perf_stat_events" ]]
     [[ $output == *"lcm_settings($id)[arg=9]"* ]]
     run -0 hwknobs set -d "$id" "$(id_of enable_gpu_acp)"
     [[ ${lines[0]} == "warn: cannot find item enable_gpu_acp to delete" && ${lines[1]} == *"#item=3" ]]

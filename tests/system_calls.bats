@@ -13,7 +13,7 @@ load device
         # shellcheck disable=SC2086
         run -1 timeout 20 "$device_script" run "$DEV" env ASAN_OPTIONS=detect_leaks=0 \
             strace -o /dev/null ${filter/PART/-P $partition} -e "inject=$inject" hwknobs $command
-        [[ ${lines[-1]//$partition/PART} == "$said"* ]] || { echo "$command $inject: $output"; return 1; }
+        [[ ${lines[-1]//$partition/PART} == "$said"* ]] || fail "$command $inject: $output"
     done <"$data/failing_calls.txt"
 }
 

@@ -43,7 +43,7 @@ tables() {
     run -1 compile broken.cpp
     n=0
     while read -r rule row; do
-        grep -qE "row_keeps_rules<$((++n)), .*rule::$rule>" <<<"$output" || { echo "not told: $rule $row"; false; }
+        grep -qE "row_keeps_rules<$((++n)), .*rule::$rule>" <<<"$output" || fail "not told: $rule $row"
     done <cases.txt
     # Every rule is tried.
     sed -n '/^enum class rule {/,/^}/s/^    \([a-z_0-9]*\),$/\1/p' "$tests/../hwknobs/hwknobs_plat/catalogue/rules.h" |
