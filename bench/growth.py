@@ -1,4 +1,6 @@
 """How cost grows with the number of selected rows: what hwknobs adds, beside what the compiler takes."""
+import operator
+import statistics
 import subprocess
 from typing import NamedTuple
 
@@ -14,23 +16,22 @@ class Point(NamedTuple):
     ours: float
 
 
-def processor_times(device, runs, commands, statuses=None):
-    found = measure.times(device, runs, commands, statuses)
-    return [found[name].median_processor() for name in commands]
+def added(own, floor):
+    """What hwknobs adds to its floor: the median of the differences of each turn."""
+    return statistics.median(map(operator.sub, own.processor, floor.processor))
 
 
 def measure_set(device, runs, name, selection):
-    compiler, floor, own = processor_times(device, runs, {
-        "compiler": f"./floor compile {name}.dts",
-        "floor": f"./floor set {name}.dts {name}.img {PARTITION}",
-        "own": f"hwknobs set {' '.join(ids(selection))}"})
-    return Point(len(selection), compiler, own - floor)
+    found = measure.times(device, runs, {"compiler": f"./floor compile {name}.dts",
+                                         "floor": f"./floor set {name}.dts {name}.img {PARTITION}",
+                                         "own": f"hwknobs set {' '.join(ids(selection))}"})
+    return Point(len(selection), found["compiler"].median_processor(), added(found["own"], found["floor"]))
 
 
 def measure_status(device, runs, name, selection):
-    floor, own = processor_times(device, runs, {"floor": f"./floor convert {name}.dtbo",
-                                                "own": "hwknobs status --partition"}, {"own": 1})
-    return Point(len(selection), floor, own - floor)
+    found = measure.times(device, runs, {"floor": f"./floor convert {name}.dtbo",
+                                         "own": "hwknobs status --partition"}, {"own": 1})
+    return Point(len(selection), found["floor"].median_processor(), added(found["own"], found["floor"]))
 
 
 def measure_sizes(device, rows, runs):
