@@ -25,11 +25,13 @@ void lock(const unique_fd& file, const char* path) {
     static_cast<void>(flock(file.get(), LOCK_EX));
 }
 
-bool is_same_file(const unique_fd& a, const unique_fd& b) {
+// A file locked twice by two names would wait for itself: where nothing tells them apart, they are taken for one.
+bool may_be_same_file(const unique_fd& a, const unique_fd& b) {
+    if (!a || !b) return false;
     struct stat of_a {};
     struct stat of_b {};
-    return fstat(a.get(), &of_a) == 0 && fstat(b.get(), &of_b) == 0 && of_a.st_dev == of_b.st_dev &&
-           of_a.st_ino == of_b.st_ino;
+    return fstat(a.get(), &of_a) != 0 || fstat(b.get(), &of_b) != 0 ||
+           (of_a.st_dev == of_b.st_dev && of_a.st_ino == of_b.st_ino);
 }
 
 }  // namespace
@@ -38,6 +40,5 @@ partition_lock::partition_lock(const char* partition)
     : default_partition_(open_to_lock(hwknobs_default_partition)),
       partition_(open_to_lock(partition)) {
     lock(default_partition_, hwknobs_default_partition);
-    // A file locked twice by two names would wait for itself.
-    if (!is_same_file(default_partition_, partition_)) lock(partition_, partition);
+    if (!may_be_same_file(default_partition_, partition_)) lock(partition_, partition);
 }
