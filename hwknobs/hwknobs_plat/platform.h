@@ -3,7 +3,6 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <iterator>
 #include <span>
 
 // Codes and names of the groups, in one list. The code, which counts up from 0, is the bit of the group in the filter

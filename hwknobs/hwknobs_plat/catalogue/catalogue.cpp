@@ -1,6 +1,5 @@
 #include "hwknobs_plat/catalogue/platforms.h"
 
-#include <iterator>
 
 namespace {
 

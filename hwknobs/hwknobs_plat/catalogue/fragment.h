@@ -53,7 +53,9 @@ private:
 
     constexpr std::string_view take_name() {
         const char* const start = at_;
-        while (*at_ != '\0' && *at_ != ' ' && *at_ != '=' && *at_ != ';' && *at_ != '{' && *at_ != '}') ++at_;
+        while ((*at_ >= 'a' && *at_ <= 'z') || *at_ == '-' || *at_ == '_' || (*at_ >= '0' && *at_ <= '9') ||
+               (*at_ >= 'A' && *at_ <= 'Z'))
+            ++at_;
         return {start, at_};
     }
 

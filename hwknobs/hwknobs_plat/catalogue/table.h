@@ -8,7 +8,6 @@
 #include "hwknobs_plat/catalogue/table_rules.h"
 
 #include <array>
-#include <iterator>
 
 namespace catalogue {
 

@@ -25,12 +25,14 @@ class text_map {
 public:
     /// The value of the text, and whether the text is new; its value is then an empty one.
     constexpr std::pair<Value&, bool> add(std::string_view text, std::string_view label = {}) {
-        std::size_t slot = label.size();
-        for (const char c : text) slot = slot * 31 + static_cast<unsigned char>(c);
-        for (slot %= slots_.size(); !slots_[slot].text.empty(); slot = (slot + 1) % slots_.size())
-            if (slots_[slot].text == text && slots_[slot].label == label) return {slots_[slot].value, false};
-        slots_[slot] = {text, label, {}};
-        return {slots_[slot].value, true};
+        for (std::size_t slot = hash(text, label) % slots_.size();; slot = (slot + 1) % slots_.size()) {
+            entry& found = slots_[slot];
+            if (found.text.empty()) {
+                found = {text, label, {}};
+                return {found.value, true};
+            }
+            if (found.text == text && found.label == label) return {found.value, false};
+        }
     }
 
 private:
@@ -39,6 +41,16 @@ private:
         std::string_view label;
         Value value;
     };
+
+    // Of a few characters only: the compiler takes every step of it.
+    static constexpr std::size_t hash(std::string_view text, std::string_view label) {
+        const std::size_t size = text.size();
+        std::size_t result = size + label.size() * 7;
+        for (const std::size_t at : {size / 5, size / 2, size * 4 / 5, size - 1})
+            result = result * 31 + static_cast<unsigned char>(text[at]);
+        return result;
+    }
+
     std::array<entry, 1024> slots_{};
 };
 
