@@ -104,6 +104,18 @@ struct listing_row {
     std::string_view group;
 };
 
+struct column {
+    std::size_t start;
+    std::size_t width;
+
+    bool holds(std::string_view text) const { return text.size() <= width; }
+};
+constexpr column id_column{0, 3};
+constexpr column desc_column{4, 72};
+constexpr column name_column{77, 40};
+constexpr column arg_column{118, 12};
+constexpr column group_column{131, 8};
+
 // "%3s %-72s %-40s %-12s %-8s\n". A listing is hundreds of lines of one layout: where all texts fit, they are copied
 // into a line of blanks, as printf() would take longer than all the rest. Nothing is cut: a long text pushes the rest
 // of its line to the right. Lines go to stdio's buffer one by one: to collect a whole listing costs more in fresh pages
@@ -111,26 +123,30 @@ struct listing_row {
 class row_printer {
 public:
     void print(const listing_row& row) {
-        if (row.id.size() > 3 || row.desc.size() > 72 || row.name.size() > 40 || row.arg.size() > 12 ||
-            row.group.size() > 8) {
+        if (!fits(row)) {
             std::puts(fmt::format("{:>3} {:<72} {:<40} {:<12} {:<8}", row.id, row.desc, row.name, row.arg, row.group)
                           .c_str());
             return;
         }
         line_.fill(' ');
-        put(3 - row.id.size(), row.id);
-        put(4, row.desc);
-        put(77, row.name);
-        put(118, row.arg);
-        put(131, row.group);
+        put(id_column.width - row.id.size(), row.id);
+        put(desc_column.start, row.desc);
+        put(name_column.start, row.name);
+        put(arg_column.start, row.arg);
+        put(group_column.start, row.group);
         line_.back() = '\n';
         std::fwrite(line_.data(), 1, line_.size(), stdout);
     }
 
 private:
-    void put(std::size_t column, std::string_view text) { text.copy(line_.data() + column, text.size()); }
+    static bool fits(const listing_row& row) {
+        return id_column.holds(row.id) && desc_column.holds(row.desc) && name_column.holds(row.name) &&
+               arg_column.holds(row.arg) && group_column.holds(row.group);
+    }
 
-    std::array<char, 140> line_;
+    void put(std::size_t start, std::string_view text) { text.copy(line_.data() + start, text.size()); }
+
+    std::array<char, group_column.start + group_column.width + 1> line_;
 };
 
 // NOLINTNEXTLINE(bugprone-reserved-identifier)
