@@ -121,6 +121,9 @@ bool hwknobs_partimage_dump(const char* partition) {
     std::printf("== dts (size: %zu) ==\n", stored->dts.size());
     std::vector<config_item> items;
     save_hwknobs_effect_status(stored->plat->name, stored->dts.c_str(), items);
-    for (const config_item& item : items) std::printf("   %s\n", item.desc().c_str());
+    for (const config_item& item : items) {
+        std::fputs("   ", stdout);
+        std::puts(item.desc().c_str());
+    }
     return true;
 }

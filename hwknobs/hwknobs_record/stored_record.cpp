@@ -17,7 +17,8 @@ constexpr const char* function_name = "save_hwknobs_effect_status";
 // Longer property values are not taken.
 constexpr std::size_t value_size_limit = 4096;
 
-// A pattern with one capture, of which `before` stands right in front and one character behind.
+// A pattern that begins with the literal text `start`, and has one capture, of which `before` stands right in front and
+// one character behind.
 //
 // The C library is asked for the whole match alone, and the capture is cut out of it: to find a capture itself, the
 // library goes over each match a second time, backwards, which takes five times as long as all other work of a read.
@@ -25,7 +26,9 @@ constexpr std::size_t value_size_limit = 4096;
 class pattern {
 public:
     // `label` begins the message with which the process ends when the pattern does not compile.
-    pattern(const char* text, std::string_view before, const char* label) : before_(before) {
+    pattern(const char* text, std::string_view start, std::string_view before, const char* label)
+        : start_(start),
+          before_(before) {
         const int result = regcomp(&regex_, text, REG_EXTENDED);
         if (result == 0) return;
         std::array<char, 128> reason{};
@@ -41,7 +44,9 @@ public:
         std::size_t end;  ///< where the whole match ends
     };
     std::optional<match> find(std::string_view text) const {
-        regmatch_t whole{.rm_so = 0, .rm_eo = static_cast<regoff_t>(text.size())};
+        const std::size_t start = text.find(start_);  // many times faster than to let the library look for it
+        if (start == std::string_view::npos) return std::nullopt;
+        regmatch_t whole{.rm_so = static_cast<regoff_t>(start), .rm_eo = static_cast<regoff_t>(text.size())};
         errno = 0;
         if (regexec(&regex_, text.data(), 1, &whole, REG_STARTEND) != 0) {
             // Some C libraries answer REG_NOMATCH then: taken for one, it would drop stored items without a word.
@@ -62,6 +67,7 @@ public:
 
 private:
     regex_t regex_{};
+    std::string_view start_;
     std::string_view before_;
 };
 
@@ -106,13 +112,13 @@ private:
 
     // They are narrow on purpose: a numeric argument is digits only, so that a negative one reads as 0; a string
     // argument is letters, "_" and "-" only, so that any other reads as empty.
-    pattern line_{R"re(item[^=]* = "([^"]*)")re", R"( = ")", "Regex"};
+    pattern line_{R"re(item[^=]* = "([^"]*)")re", "item", R"( = ")", "Regex"};
     // Never read, as the id decides which setting is meant. Compiled all the same: a C library that cannot compile it
     // ends the run with the message that belongs to it.
-    pattern command_{R"(Activate  ([a-zA-Z0-9_-]*)\()", "Activate  ", "regex_command"};
-    pattern index_{R"(\(([0-9]*)\))", "(", "regex_index"};
-    pattern numeric_{R"(\[arg=([0-9]*)\])", "[arg=", "regex_arg"};
-    pattern string_{R"(\[str=([a-zA-Z_-]*)\])", "[str=", "regex_str"};
+    pattern command_{R"(Activate  ([a-zA-Z0-9_-]*)\()", "Activate  ", "Activate  ", "regex_command"};
+    pattern index_{R"(\(([0-9]*)\))", "(", "(", "regex_index"};
+    pattern numeric_{R"(\[arg=([0-9]*)\])", "[arg=", "[arg=", "regex_arg"};
+    pattern string_{R"(\[str=([a-zA-Z_-]*)\])", "[str=", "[str=", "regex_str"};
 };
 
 }  // namespace
