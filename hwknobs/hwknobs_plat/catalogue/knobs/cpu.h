@@ -13,16 +13,17 @@ inline constexpr knob cpu_start_mask_set = {
     CPU, "cpu_start_mask_set", text<"Set mask of cores to start, bit 0 is the boot core (0x1-{})", AllCores>,
     dt_arg("&chosen { cpu-start-mask = <0x%x>; };")};
 
-inline constexpr knob cpu3_off = {CPU, "cpu3_off", "Leave CPU3 off", dt(R"(&cpu3 { status = "disabled"; };)")};
+// The kernel starts a core whatever the status of its node but "fail", and does not look at that of a cluster. These are
+// properties of the chip's own CPU start-up, which leaves a core off that any of them names.
+inline constexpr knob cpu3_off = {CPU, "cpu3_off", "Leave CPU3 off", dt("&chosen { cpu-start-skip-3; };")};
 
 template <unsigned Cpu, word Core>
 inline constexpr knob big_core_off = {
     CPU, text<"cpu{}_off", Cpu>, text<"Leave CPU{} off (Cortex-{}, big cluster)", Cpu, Core>,
-    dt(text<R"(&cpu{} { status = "disabled"; };)", Cpu>)};
+    dt(text<"&chosen { cpu-start-skip-{}; };", Cpu>)};
 
-template <unsigned Cluster>
 inline constexpr knob big_off = {
-    CPU, "big_off", "Leave whole big cluster off", dt(text<R"(&cluster{} { status = "disabled"; };)", Cluster>)};
+    CPU, "big_off", "Leave whole big cluster off", dt("&chosen { cpu-start-skip-big; };")};
 
 inline constexpr knob cpu_hotplug_disable = {
     CPU, "cpu_hotplug_disable", "Disable automatic core hotplug, keep all cores online",
@@ -31,9 +32,10 @@ inline constexpr knob core_ctl_disable = {
     CPU, "core_ctl_disable", "Disable core control, never isolate lightly loaded cores",
     dt(R"(&core_ctl { status = "disabled"; };)")};
 inline constexpr knob little_boot_core_only = {
-    CPU, "little_boot_core_only", "Leave all little cores but the boot core off", dt("&cluster0 { boot-core-only; };")};
+    CPU, "little_boot_core_only", "Leave all little cores but the boot core off",
+    dt("&chosen { cpu-start-skip-little; };")};
 inline constexpr knob mid_off = {
-    CPU, "mid_off", "Leave whole mid cluster off", dt(R"(&cluster1 { status = "disabled"; };)")};
+    CPU, "mid_off", "Leave whole mid cluster off", dt("&chosen { cpu-start-skip-mid; };")};
 inline constexpr knob cpufreq_disable = {
     CPU, "cpufreq_disable", "Disable CPU frequency scaling, stay at the boot clock", dt("&chosen { cpufreq-off; };")};
 

@@ -54,7 +54,7 @@ constexpr knob rows[] = {
     // CPU
     boot_core_only,
     big_core_off<5, "A72">,
-    big_off<1>,
+    big_off,
     cpu_hotplug_disable,
     cpufreq_disable,
     cpu_fix_max,

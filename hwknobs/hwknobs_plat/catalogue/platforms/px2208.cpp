@@ -53,7 +53,7 @@ constexpr knob rows[] = {
     // CPU
     boot_core_only,
     big_core_off<7, "A53">,
-    big_off<1>,
+    big_off,
     cpu_hotplug_disable,
     cpufreq_disable,
     cpu_fix_max,

@@ -59,7 +59,7 @@ constexpr knob rows[] = {
     boot_core_only,
     big_core_off<9, "A73">,
     mid_off,
-    big_off<2>,
+    big_off,
     cpu_hotplug_disable,
     cpufreq_disable,
     cpu_fix_max,

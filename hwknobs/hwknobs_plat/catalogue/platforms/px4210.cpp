@@ -64,7 +64,7 @@ constexpr knob rows[] = {
     boot_core_only,
     cpu_start_mask_set<"0xff">,
     big_core_off<7, "A75">,
-    big_off<1>,
+    big_off,
     core_ctl_disable,
     cpufreq_disable,
     cpu_fix_max,

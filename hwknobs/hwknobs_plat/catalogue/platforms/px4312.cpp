@@ -70,7 +70,7 @@ constexpr knob rows[] = {
     cpu_start_mask_set<"0xff">,
     big_core_off<7, "A76">,
     little_boot_core_only,
-    big_off<1>,
+    big_off,
     core_ctl_disable,
     cpufreq_disable,
     cpu_fix_max,

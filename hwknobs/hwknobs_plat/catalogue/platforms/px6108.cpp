@@ -68,7 +68,7 @@ constexpr row rows[] = {
     {45, boot_core_only},
     {46, cpu_start_mask_set<"0xff">},
     {47, big_core_off<7, "A76">},
-    {48, big_off<1>},
+    {48, big_off},
     {49, cpufreq_disable},
     {50, cpu_fix_max},
     {51, cpu_fix_min},

@@ -70,7 +70,7 @@ constexpr row rows[] = {
     {47, cpu_start_mask_set<"0xff">},
     {48, big_core_off<7, "A78">},
     {49, little_boot_core_only},
-    {50, big_off<1>},
+    {50, big_off},
     {51, cpufreq_disable},
     {52, cpu_fix_max},
     {53, cpu_fix_min},

@@ -73,7 +73,7 @@ constexpr row rows[] = {
     {52, cpu_start_mask_set<"0xff">},
     {53, big_core_off<7, "A78">},
     {54, little_boot_core_only},
-    {55, big_off<1>},
+    {55, big_off},
     {56, cpufreq_disable},
     {57, cpu_fix_max},
     {58, cpu_fix_min},

@@ -77,7 +77,7 @@ constexpr row rows[] = {
     {57, boot_core_only},
     {58, cpu_start_mask_set<"0xff">},
     {59, big_core_off<7, "A715">},
-    {60, big_off<1>},
+    {60, big_off},
     {61, cpufreq_disable},
     {62, cpu_fix_max},
     {63, cpu_fix_min},
