@@ -40,9 +40,14 @@ inline constexpr knob dram_eye_scan_tx = {
     DRAM, "dram_eye_scan_tx", "Print DRAM write eye scan in the bootloader log", env("ddr_eye_tx", "on")};
 
 template <word Supply>
-inline constexpr knob dram_train_vdd2_offset = {
-    DRAM, "dram_train_vdd2_offset", text<"Offset DRAM {} during training in mV (-50 to 50)", Supply>,
-    env_arg("ddr_vofs", "%d")};
+inline constexpr knob dram_vdd2_plus_20mv = {
+    DRAM, "dram_vdd2_plus_20mv", text<"Raise DRAM {} by 20 mV during training", Supply>, env("ddr_vdd2", "p20"),
+    choice{"DRAM supply during training"}};
+
+template <word Supply>
+inline constexpr knob dram_vdd2_minus_20mv = {
+    DRAM, "dram_vdd2_minus_20mv", text<"Lower DRAM {} by 20 mV during training", Supply>, env("ddr_vdd2", "m20"),
+    choice{"DRAM supply during training"}};
 
 inline constexpr knob dram_dqs_osc_disable = {
     DRAM, "dram_dqs_osc_disable", "Disable periodic DQS oscillator tracking", dt("&dramc { dqs-osc-disable; };")};

@@ -90,7 +90,8 @@ constexpr knob rows[] = {
     dram_train_renew,
     dram_eye_scan_rx,
     dram_eye_scan_tx,
-    dram_train_vdd2_offset<"VDD2">,
+    dram_vdd2_plus_20mv<"VDD2">,
+    dram_vdd2_minus_20mv<"VDD2">,
     dram_refresh_2x,
     dram_mr4_override<7>,
     dram_self_refresh_disable,
@@ -135,7 +136,6 @@ constexpr knob rows[] = {
     // GPU
     gpu_fix<650>,
     gpu_fix<320>,
-    gpu_max<560>,
     gpu_dvfs_disable,
     gpu_voltage_offset,
     gpu_disable,

@@ -92,7 +92,8 @@ constexpr knob rows[] = {
     dram_train_renew,
     dram_eye_scan_rx,
     dram_eye_scan_tx,
-    dram_train_vdd2_offset<"VDD2">,
+    dram_vdd2_plus_20mv<"VDD2">,
+    dram_vdd2_minus_20mv<"VDD2">,
     dram_dqs_osc_disable,
     dram_refresh_2x,
     dram_mr4_override<7>,
@@ -140,7 +141,6 @@ constexpr knob rows[] = {
     // GPU
     gpu_fix<680>,
     gpu_fix<300>,
-    gpu_max<600>,
     gpu_dvfs_disable,
     gpu_voltage_offset,
     gpu_disable,

@@ -110,7 +110,8 @@ constexpr row rows[] = {
     {88, dram_train_renew},
     {89, dram_eye_scan_rx},
     {90, dram_eye_scan_tx},
-    {91, dram_train_vdd2_offset<"VDD2">},
+    {91, dram_vdd2_plus_20mv<"VDD2">},
+    {146, dram_vdd2_minus_20mv<"VDD2">},
     {92, dram_dqs_osc_disable},
     {93, dram_refresh_2x},
     {94, dram_refresh_all_bank},
@@ -171,7 +172,6 @@ constexpr row rows[] = {
     // GPU
     {143, gpu_fix<880>},
     {145, gpu_fix<320>},
-    {146, gpu_max<790>},
     {147, gpu_dvfs_disable},
     {148, gpu_voltage_offset},
     {149, gpu_disable},

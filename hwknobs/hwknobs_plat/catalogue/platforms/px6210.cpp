@@ -113,7 +113,8 @@ constexpr row rows[] = {
     {89, dram_train_renew},
     {90, dram_eye_scan_rx},
     {91, dram_eye_scan_tx},
-    {92, dram_train_vdd2_offset<"VDD2H">},
+    {92, dram_vdd2_plus_20mv<"VDD2H">},
+    {156, dram_vdd2_minus_20mv<"VDD2H">},
     {93, dram_wck_osc_disable},
     {94, dram_refresh_2x},
     {95, dram_refresh_all_bank},
@@ -177,7 +178,6 @@ constexpr row rows[] = {
     // GPU
     {153, gpu_fix<900>},
     {155, gpu_fix<350>},
-    {156, gpu_max<815>},
     {157, gpu_dvfs_disable},
     {158, gpu_voltage_offset},
     {159, gpu_avs_disable},

@@ -124,7 +124,8 @@ constexpr row rows[] = {
     {104, dram_train_renew},
     {105, dram_eye_scan_rx},
     {106, dram_eye_scan_tx},
-    {107, dram_train_vdd2_offset<"VDD2">},
+    {107, dram_vdd2_plus_20mv<"VDD2">},
+    {173, dram_vdd2_minus_20mv<"VDD2">},
     {108, dram_dqs_osc_disable},
     {109, dram_refresh_2x},
     {110, dram_refresh_all_bank},
@@ -195,7 +196,6 @@ constexpr row rows[] = {
     // GPU
     {170, gpu_fix<890>},
     {172, gpu_fix<370>},
-    {173, gpu_max<820>},
     {174, gpu_min<610>},
     {175, gpu_dvfs_disable},
     {176, gpu_voltage_offset},

@@ -118,7 +118,8 @@ constexpr row rows[] = {
     {97, dram_train_renew},
     {98, dram_eye_scan_rx},
     {99, dram_eye_scan_tx},
-    {100, dram_train_vdd2_offset<"VDD2H">},
+    {100, dram_vdd2_plus_20mv<"VDD2H">},
+    {164, dram_vdd2_minus_20mv<"VDD2H">},
     {102, dram_wck_osc_disable},
     {103, dram_refresh_2x},
     {104, dram_refresh_all_bank},
@@ -185,7 +186,6 @@ constexpr row rows[] = {
     // GPU
     {161, gpu_fix<950>},
     {163, gpu_fix<380>},
-    {164, gpu_max<860>},
     {165, gpu_min<635>},
     {166, gpu_dvfs_disable},
     {167, gpu_voltage_offset},

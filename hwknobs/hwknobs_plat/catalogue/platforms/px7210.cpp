@@ -130,7 +130,8 @@ constexpr row rows[] = {
     {108, dram_train_renew},
     {109, dram_eye_scan_rx},
     {110, dram_eye_scan_tx},
-    {111, dram_train_vdd2_offset<"VDD2H">},
+    {111, dram_vdd2_plus_20mv<"VDD2H">},
+    {181, dram_vdd2_minus_20mv<"VDD2H">},
     {112, dram_wck_osc_disable},
     {113, dram_refresh_2x},
     {114, dram_refresh_all_bank},
@@ -207,7 +208,6 @@ constexpr row rows[] = {
     // GPU
     {178, gpu_fix<1000>},
     {180, gpu_fix<400>},
-    {181, gpu_max<905>},
     {182, gpu_min<670>},
     {183, gpu_dvfs_disable},
     {184, gpu_voltage_offset},

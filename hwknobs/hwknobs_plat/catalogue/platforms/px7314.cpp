@@ -135,7 +135,8 @@ constexpr row rows[] = {
     {114, dram_train_renew},
     {115, dram_eye_scan_rx},
     {116, dram_eye_scan_tx},
-    {117, dram_train_vdd2_offset<"VDD2H">},
+    {117, dram_vdd2_plus_20mv<"VDD2H">},
+    {188, dram_vdd2_minus_20mv<"VDD2H">},
     {118, dram_wck_osc_disable},
     {119, dram_refresh_2x},
     {120, dram_refresh_all_bank},
@@ -214,7 +215,6 @@ constexpr row rows[] = {
     // GPU
     {185, gpu_fix<850>},
     {187, gpu_fix<350>},
-    {188, gpu_max<775>},
     {189, gpu_min<580>},
     {190, gpu_dvfs_disable},
     {191, gpu_dvfs_period_set},

@@ -126,7 +126,8 @@ constexpr row rows[] = {
     {106, dram_train_renew},
     {107, dram_eye_scan_rx},
     {109, dram_eye_scan_tx},
-    {110, dram_train_vdd2_offset<"VDD2H">},
+    {110, dram_vdd2_plus_20mv<"VDD2H">},
+    {176, dram_vdd2_minus_20mv<"VDD2H">},
     {111, dram_wck_osc_disable},
     {112, dram_refresh_2x},
     {113, dram_refresh_all_bank},
@@ -199,7 +200,6 @@ constexpr row rows[] = {
     // GPU
     {173, gpu_fix<1100>},
     {175, gpu_fix<450>},
-    {176, gpu_max<1000>},
     {177, gpu_min<745>},
     {178, gpu_dvfs_disable},
     {180, gpu_voltage_offset},

@@ -138,7 +138,8 @@ constexpr row rows[] = {
     {119, dram_train_renew},
     {120, dram_eye_scan_rx},
     {121, dram_eye_scan_tx},
-    {122, dram_train_vdd2_offset<"VDD2H">},
+    {122, dram_vdd2_plus_20mv<"VDD2H">},
+    {201, dram_vdd2_minus_20mv<"VDD2H">},
     {123, dram_wck_osc_disable},
     {124, dram_refresh_2x},
     {125, dram_refresh_all_bank},
@@ -220,7 +221,6 @@ constexpr row rows[] = {
     // GPU
     {197, gpu_fix<1300>},
     {200, gpu_fix<530>},
-    {201, gpu_max<1185>},
     {202, gpu_min<880>},
     {203, gpu_dvfs_disable},
     {205, gpu_dvfs_period_set},
