@@ -151,18 +151,16 @@ inline constexpr knob cache_ecc_log = {
 inline constexpr knob svs_disable = {
     CPU, "svs_disable", "Disable adaptive voltage scaling of the CPU supplies",
     both("avs", "off", R"(&svs { status = "disabled"; };)")};
-inline constexpr knob cpu_plus_25mv = {
-    CPU, "cpu_plus_25mv", "Raise CPU voltage by 25 mV at every operating point",
-    dt("&svs_cpu { voltage-offset-microvolt = <25000>; };"), choice{"CPU voltage"}};
 inline constexpr knob cpu_voltage_offset = {
     CPU, "cpu_voltage_offset", "Offset CPU voltage in uV (-50000 to 50000)",
-    dt_arg("&svs_cpu { voltage-offset-microvolt = <%d>; };"), choice{"CPU voltage"}};
-inline constexpr knob big_plus_25mv = {
-    CPU, "big_plus_25mv", "Raise big cluster voltage by 25 mV at every operating point",
-    dt("&svs_big { voltage-offset-microvolt = <25000>; };"), choice{"big cluster voltage"}};
-inline constexpr knob big_voltage_offset = {
-    CPU, "big_voltage_offset", "Offset big cluster voltage in uV (-50000 to 50000)",
-    dt_arg("&svs_big { voltage-offset-microvolt = <%d>; };"), choice{"big cluster voltage"}};
+    dt_arg("&svs_cpu { voltage-offset-microvolt = <%d>; };")};
+
+// A row for each supply that the clusters have of their own.
+template <word Cluster>
+inline constexpr knob cluster_voltage_offset = {
+    CPU, text<"{}_voltage_offset", Cluster>, text<"Offset {} cluster voltage in uV (-50000 to 50000)", Cluster>,
+    dt_arg(text<"&svs_{} { voltage-offset-microvolt = <%d>; };", Cluster>)};
+
 inline constexpr knob droop_disable = {
     CPU, "droop_disable", "Disable clock stretching on big cluster voltage droop",
     dt(R"(&droop_big { status = "disabled"; };)")};

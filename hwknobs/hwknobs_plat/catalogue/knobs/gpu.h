@@ -22,9 +22,6 @@ inline constexpr knob gpu_min = {
 
 inline constexpr knob gpu_dvfs_disable = {
     GPU, "gpu_dvfs_disable", "Disable GPU DVFS and keep the boot frequency", dt("&gpufreq { dvfs-disable; };")};
-inline constexpr knob gpu_plus_25mv = {
-    GPU, "gpu_plus_25mv", "Raise GPU voltage by 25 mV at every operating point",
-    dt("&gpufreq { voltage-offset-microvolt = <25000>; };"), choice{"GPU voltage"}};
 inline constexpr knob gpu_dvfs_period_set = {
     GPU, "gpu_dvfs_period_set", "Set GPU load sampling period for DVFS in ms (1-1000)",
     dt_arg("&mali { dvfs-period-ms = <0x%x>; };")};
@@ -33,7 +30,7 @@ inline constexpr knob gpu_throttle_disable = {
     dt("&gpufreq { thermal-throttle-disable; };")};
 inline constexpr knob gpu_voltage_offset = {
     GPU, "gpu_voltage_offset", "Offset GPU voltage in uV (-50000 to 50000)",
-    dt_arg("&gpufreq { voltage-offset-microvolt = <%d>; };"), choice{"GPU voltage"}};
+    dt_arg("&gpufreq { voltage-offset-microvolt = <%d>; };")};
 inline constexpr knob gpu_speed_bin_ignore = {
     GPU, "gpu_speed_bin_ignore", "Ignore GPU speed bin fuses and use the default OPP table", env("gpu_bin", "off")};
 inline constexpr knob gpu_avs_disable = {

@@ -67,7 +67,6 @@ constexpr knob rows[] = {
     prefetch_disable,
     cpu_clock_gating_disable,
     svs_disable,
-    cpu_plus_25mv,
     cpu_voltage_offset,
     cpu_throttle_disable,
 
@@ -120,6 +119,7 @@ constexpr knob rows[] = {
     gpu_fix<299>,
     gpu_max<598>,
     gpu_dvfs_disable,
+    gpu_voltage_offset,
     gpu_disable,
     gpu_policy_always_on,
     gpu_policy_coarse_demand,

@@ -73,8 +73,8 @@ constexpr knob rows[] = {
     cpu_clock_gating_disable,
     cache_ecc_log,
     svs_disable,
-    big_plus_25mv,
-    big_voltage_offset,
+    cluster_voltage_offset<"little">,
+    cluster_voltage_offset<"big">,
     cpu_throttle_disable,
 
     // DRAM
@@ -131,7 +131,7 @@ constexpr knob rows[] = {
     gpu_fix<253>,
     gpu_max<546>,
     gpu_dvfs_disable,
-    gpu_plus_25mv,
+    gpu_voltage_offset,
     gpu_disable,
     gpu_policy_always_on,
     gpu_policy_coarse_demand,

@@ -71,7 +71,6 @@ constexpr knob rows[] = {
     prefetch_disable,
     cpu_clock_gating_disable,
     svs_disable,
-    cpu_plus_25mv,
     cpu_voltage_offset,
     cpu_throttle_disable,
 
@@ -127,6 +126,7 @@ constexpr knob rows[] = {
     gpu_fix<270>,
     gpu_max<780>,
     gpu_dvfs_disable,
+    gpu_voltage_offset,
     gpu_disable,
     gpu_policy_always_on,
     gpu_policy_coarse_demand,

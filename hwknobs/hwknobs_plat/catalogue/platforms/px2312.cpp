@@ -80,8 +80,8 @@ constexpr knob rows[] = {
     cpu_clock_gating_disable,
     cache_ecc_log,
     svs_disable,
-    cpu_plus_25mv,
-    cpu_voltage_offset,
+    cluster_voltage_offset<"little">,
+    cluster_voltage_offset<"big">,
     cpu_throttle_disable,
 
     // DRAM
@@ -144,7 +144,7 @@ constexpr knob rows[] = {
     gpu_fix<280>,
     gpu_max<750>,
     gpu_dvfs_disable,
-    gpu_plus_25mv,
+    gpu_voltage_offset,
     gpu_disable,
     gpu_policy_always_on,
     gpu_policy_coarse_demand,

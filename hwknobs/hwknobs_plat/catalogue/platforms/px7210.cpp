@@ -1,6 +1,6 @@
 // px7210: upper mid range, 8 cores, kernel 5.15.
 //
-// CPU      little: 4 x A510 (cpu0-3), 550 to 2000 MHz
+// CPU      little: 4 x A55 (cpu0-3), 550 to 2000 MHz
 //          mid: 3 x A78 (cpu4-6), 820 to 2750 MHz
 //          big: 1 x A78 (cpu7), 870 to 2850 MHz
 // GPU      Mali-G610, 6 shader cores, 400 to 1000 MHz
@@ -108,8 +108,9 @@ constexpr row rows[] = {
     {86, cpu_clock_gating_disable},
     {87, cache_ecc_log},
     {88, svs_disable},
-    {89, big_plus_25mv},
-    {90, big_voltage_offset},
+    {89, cluster_voltage_offset<"little">},
+    {99, cluster_voltage_offset<"mid">},
+    {90, cluster_voltage_offset<"big">},
     {91, droop_disable},
     {92, cpu_throttle_disable},
     {93, cpu_trip_set},
@@ -117,7 +118,6 @@ constexpr row rows[] = {
     {96, erratum_fw_skip},
     {97, mitigations_off},
     {98, kpti_disable},
-    {99, el0_32bit_mismatch_allow},
     {101, lse_disable},
 
     // DRAM
