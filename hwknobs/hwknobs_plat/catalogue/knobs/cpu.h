@@ -13,8 +13,8 @@ inline constexpr knob cpu_start_mask_set = {
     CPU, "cpu_start_mask_set", text<"Set mask of cores to start, bit 0 is the boot core (0x1-{})", AllCores>,
     dt_arg("&chosen { cpu-start-mask = <0x%x>; };")};
 
-// The kernel starts a core whatever the status of its node but "fail", and does not look at that of a cluster. These are
-// properties of the chip's own CPU start-up, which leaves a core off that any of them names.
+// The kernel starts a core whatever the status of its node but "fail", and does not look at that of a cluster. These
+// are properties of the chip's own CPU start-up, which leaves a core off that any of them names.
 inline constexpr knob cpu3_off = {CPU, "cpu3_off", "Leave CPU3 off", dt("&chosen { cpu-start-skip-3; };")};
 
 template <unsigned Cpu, word Core>
@@ -22,8 +22,7 @@ inline constexpr knob big_core_off = {
     CPU, text<"cpu{}_off", Cpu>, text<"Leave CPU{} off (Cortex-{}, big cluster)", Cpu, Core>,
     dt(text<"&chosen { cpu-start-skip-{}; };", Cpu>)};
 
-inline constexpr knob big_off = {
-    CPU, "big_off", "Leave whole big cluster off", dt("&chosen { cpu-start-skip-big; };")};
+inline constexpr knob big_off = {CPU, "big_off", "Leave whole big cluster off", dt("&chosen { cpu-start-skip-big; };")};
 
 inline constexpr knob cpu_hotplug_disable = {
     CPU, "cpu_hotplug_disable", "Disable automatic core hotplug, keep all cores online",
@@ -34,8 +33,7 @@ inline constexpr knob core_ctl_disable = {
 inline constexpr knob little_boot_core_only = {
     CPU, "little_boot_core_only", "Leave all little cores but the boot core off",
     dt("&chosen { cpu-start-skip-little; };")};
-inline constexpr knob mid_off = {
-    CPU, "mid_off", "Leave whole mid cluster off", dt("&chosen { cpu-start-skip-mid; };")};
+inline constexpr knob mid_off = {CPU, "mid_off", "Leave whole mid cluster off", dt("&chosen { cpu-start-skip-mid; };")};
 inline constexpr knob cpufreq_disable = {
     CPU, "cpufreq_disable", "Disable CPU frequency scaling, stay at the boot clock", dt("&chosen { cpufreq-off; };")};
 

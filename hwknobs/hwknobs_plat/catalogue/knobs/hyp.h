@@ -11,6 +11,9 @@ inline constexpr knob pkvm_enable = {
 inline constexpr knob pkvm_disable = {
     HYP, "pkvm_disable", "Enter kernel at EL1 without hypervisor",
     both("pkvm", "off", R"(&hypervisor { status = "disabled"; };)"), choice{"KVM mode"}};
+inline constexpr knob hyp_disable = {
+    HYP, "hyp_disable", "Enter kernel at EL1 without hypervisor",
+    both("hyp", "off", R"(&hypervisor { status = "disabled"; };)")};
 inline constexpr knob kvm_nvhe = {
     HYP, "kvm_nvhe", "Run KVM in nVHE mode without protected VMs", dt(R"(&chosen { kvm-arm-mode = "nvhe"; };)"),
     choice{"KVM mode"}};

@@ -68,12 +68,25 @@ inline constexpr knob rcu_exp_stall_timeout_200ms = {
 inline constexpr knob watchdog_disable = {
     KERNEL, "watchdog_disable", "Disable hardware watchdog in bootloader and kernel",
     both("wdt_boot", "off", R"(&watchdog { status = "disabled"; };)")};
+inline constexpr knob watchdog_timeout_set = {
+    KERNEL, "watchdog_timeout_set", "Set hardware watchdog time in seconds (10-120)",
+    dt_arg("&watchdog { timeout-sec = <0x%x>; };")};
 inline constexpr knob watchdog_percpu_kick_enable = {
     KERNEL, "watchdog_percpu_kick_enable", "Kick watchdog from every CPU to catch hard lockups",
     dt("&watchdog { percpu-kick; };")};
 inline constexpr knob hash_pointers_disable = {
     KERNEL, "hash_pointers_disable", "Print plain kernel pointers instead of hashed ones",
     dt("&chosen { no-hash-pointers; };")};
+// "=" cannot be given in an argument, so this is for "keep_bootcon" and the like.
+inline constexpr knob kernel_argument_add = {
+    KERNEL, "kernel_argument_add", "Add one kernel argument without a value (as keep_bootcon)",
+    dt_arg(R"(&chosen { extra-argument = "%s "; };)")};
+inline constexpr knob memory_limit_set = {
+    KERNEL, "memory_limit_set", "Limit usable memory in MB (1024 or more, else boot may fail)",
+    dt_arg("&chosen { memory-limit-mb = <0x%x>; };")};
+inline constexpr knob module_blocklist_set = {
+    KERNEL, "module_blocklist_set", "Do not load the named modules, with commas between them",
+    dt_arg(R"(&chosen { module-blocklist = "%s "; };)")};
 inline constexpr knob dyndbg_set = {
     KERNEL, "dyndbg_set", "Enable dynamic debug messages of the named modules",
     dt_arg(R"(&chosen { dyndbg-modules = "%s "; };)")};

@@ -23,7 +23,6 @@ constexpr row rows[] = {
     {2, kaslr_enable},
     {3, kmemleak_disable},
     {4, kmemleak_enable},
-    {5, kfence_interval_set},
     {6, slub_debug_enable},
     {7, page_owner_enable},
     {8, page_poison_enable},
@@ -46,6 +45,9 @@ constexpr row rows[] = {
     {223, uart_baud_921600},
     {22, dyndbg_set},
     {23, initcall_debug_enable},
+    {215, kernel_argument_add},
+    {217, memory_limit_set},
+    {218, module_blocklist_set},
     {24, fw_devlink_set},
     {26, clk_ignore_unused},
     {27, regulator_ignore_unused},
@@ -173,6 +175,7 @@ constexpr row rows[] = {
     {143, gpu_fix<880>},
     {145, gpu_fix<320>},
     {147, gpu_dvfs_disable},
+    {5, gpu_throttle_disable},
     {148, gpu_voltage_offset},
     {149, gpu_disable},
     {150, gpu_policy_always_on},
@@ -244,10 +247,7 @@ constexpr row rows[] = {
     {213, bus_clock_gating_disable},
 
     // HYP: hypervisor and secure world
-    {215, pkvm_enable},
-    {216, pkvm_disable},
-    {217, kvm_nvhe},
-    {218, stage2_fault_log},
+    {216, hyp_disable},
     {219, el2_uart_enable},
     {220, el3_log_set},
 

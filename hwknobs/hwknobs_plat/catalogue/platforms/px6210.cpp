@@ -23,7 +23,6 @@ constexpr row rows[] = {
     {2, kaslr_enable},
     {3, kmemleak_disable},
     {4, kmemleak_enable},
-    {5, kfence_interval_set},
     {6, slub_debug_enable},
     {7, page_owner_enable},
     {8, page_poison_enable},
@@ -46,6 +45,9 @@ constexpr row rows[] = {
     {241, uart_baud_921600},
     {23, dyndbg_set},
     {24, initcall_debug_enable},
+    {233, kernel_argument_add},
+    {235, memory_limit_set},
+    {236, module_blocklist_set},
     {25, fw_devlink_set},
     {26, clk_ignore_unused},
     {27, regulator_ignore_unused},
@@ -179,6 +181,7 @@ constexpr row rows[] = {
     {153, gpu_fix<900>},
     {155, gpu_fix<350>},
     {157, gpu_dvfs_disable},
+    {5, gpu_throttle_disable},
     {158, gpu_voltage_offset},
     {159, gpu_avs_disable},
     {160, gpu_disable},
@@ -256,10 +259,7 @@ constexpr row rows[] = {
     {232, bus_clock_gating_disable},
 
     // HYP: hypervisor and secure world
-    {233, pkvm_enable},
-    {234, pkvm_disable},
-    {235, kvm_nvhe},
-    {236, stage2_fault_log},
+    {234, hyp_disable},
     {237, el2_uart_enable},
     {238, el3_log_set},
 
