@@ -3,14 +3,15 @@
 load device
 
 @test "usage and unknown words" {
-    local usage words said
+    local usage words said errors
     usage=$(<"$data/usage.txt")
     expect 1 "$usage" hwknobs --verbose --plat px0000
     expect 1 "$usage" hwknobs --help plat-list
-    while IFS='|' read -r words said; do
+    # shellcheck disable=SC2034 # errors is for expect
+    while IFS='|' read -r words said errors; do
         # shellcheck disable=SC2086
         expect 1 "$said" hwknobs $words
-    done <"$data/refused_words.txt"
+    done < <(rows refused_words)
 }
 
 @test "detection of the platform" {
@@ -21,12 +22,13 @@ load device
         run -0 hwknobs list
         [[ ${lines[0]} == "XPR config list (arch px0000) num:7" ]]
     done
-    printf '\0\0\0\0\x10\x63\0\0%12s' '' >"$chosen/atag,chipid"
-    for code in ffff zz ''; do # the file decides even when it names no platform
+    printf '\0\0\0\0\x10\x62\0\0%12s' '' >"$chosen/atag,chipid"
+    for code in ffff zz ''; do # the file decides, even against a chipid that names one
         echo "$code" >"$DEV/proc/chip/hw_code"
         expect 1 "$unknown" hwknobs list
     done
     rm "$DEV/proc/chip/hw_code"
+    printf '\0\0\0\0\x10\x63\0\0%12s' '' >"$chosen/atag,chipid"
     expect 1 "$unknown" hwknobs list
     printf '\0\0\0\0\x10\x62\x01\0%16s' '' >"$chosen/atag,chipid" # longer than 20 bytes
     run -0 hwknobs list-group

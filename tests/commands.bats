@@ -24,7 +24,7 @@ load device
         if [[ $code == HWKNOBS_FORCE_ENABLE ]]; then pl=$message lk=$message; fi
         expect 1 "[PL]: $pl
 [LK]: $lk" hwknobs auth-status
-    done <"$data/auth_codes.txt"
+    done < <(rows auth_codes)
     device reboot --pl PL_AUTH_FAIL
     expect 1 "[PL]: SBOOT enable, Image authentication FAIL
 ERROR: hwknobs_sec_boot_status: Can't open atag,lk-sec entry" hwknobs auth-status
@@ -105,11 +105,12 @@ xml() { hwknobs xmlconfig-set <<<"<hwknobs name='n' platform='px8314'>$1</hwknob
 @test "documents that are refused leave the partition as it was" {
     hwknobs setname kaslr_disable
     cp "$DEV/boot_para" "$DEV/before"
-    local document said
-    while IFS='|' read -r document said; do
+    local document said errors
+    # shellcheck disable=SC2034 # errors is for ends_in
+    while IFS='|' read -r document said errors; do
         ends_in 1 "ERROR: $said" hwknobs xmlconfig-set <<<"$(printf '%b' "$document")"
         cmp "$DEV/boot_para" "$DEV/before"
-    done <"$data/refused_documents.txt"
+    done < <(rows refused_documents)
     run -1 --separate-stderr hwknobs xmlconfig-set <<<"<hwknobs name='n' platform='px8314'></hwknobs"
     [[ $stderr == *"parser error"* && $output == $'Config generate (stdin)\nERROR: Could not parse XML file content' ]]
     head -c 4096 /dev/zero | tr '\0' ' ' >"$DEV/data/large"

@@ -19,12 +19,14 @@ fail() {
     return 1
 }
 
-# expect STATUS OUTPUT COMMAND...: runs the command, which gives exactly this (a final newline aside).
+# expect STATUS OUTPUT COMMAND...: runs the command, which gives exactly this (a final newline aside) on standard output.
+# On standard error it says nothing, or what matches the pattern in "errors", which a case sets for itself.
 expect() {
-    run "${@:3}"
-    if [[ $status != "$1" || $output != "$2" ]]; then
+    run --separate-stderr "${@:3}"
+    if [[ $status != "$1" || $output != "$2" ]] || ! said_errors; then
         echo "command: ${*:3}"
         echo "status:  $status, expected $1"
+        echo "errors:  $stderr"
         diff <(echo "$2") <(echo "$output") || true
         return 1
     fi
@@ -32,13 +34,20 @@ expect() {
 
 # ends_in STATUS LINE COMMAND...: the same for the last line alone.
 ends_in() {
-    run "${@:3}"
-    [[ $status == "$1" && ${lines[-1]} == "$2" ]] || fail "command: ${*:3}" "$status: $output"
+    run --separate-stderr "${@:3}"
+    { [[ $status == "$1" && ${lines[-1]-} == "$2" ]] && said_errors; } || fail "command: ${*:3}" "$status: $output" "$stderr"
 }
 
-# A compiler of that name in the device's data folder, which is the working directory inside. Its body is on stdin.
+# shellcheck disable=SC2053 # a pattern
+said_errors() { [[ $stderr == ${errors-} ]]; }
+
+# rows TABLE: its lines without the first, which names its columns.
+rows() { tail -n +2 "$data/$1.txt"; }
+
+# compiler NAME [SHELL]: a compiler in the device's data folder, which is the working directory inside. Its body is on
+# stdin.
 compiler() {
-    cat <(echo '#!/bin/sh') - >"$DEV/data/$1"
+    cat <(echo "#!/bin/${2-sh}") - >"$DEV/data/$1"
     chmod +x "$DEV/data/$1"
     export DTCBIN=./$1
 }

@@ -56,14 +56,13 @@ expected_image() {
 }
 
 @test "clear: three ranges, sizes and failures" {
-    # options, and what is left of the bytes at 0, 0xfffff, 0x100000 and at the end
     local option left
     while IFS='|' read -r option left; do
         tr '\0' x </dev/zero | head -c 2M >"$DEV/boot_para"
         # shellcheck disable=SC2086
         expect 0 "" hwknobs clear $option
         [[ $(bytes 0 1)$(bytes 0xfffff 1)$(bytes 0x100000 1)$(bytes 0x1fffff 1) == "$left" ]]
-    done <"$data/clear_ranges.txt"
+    done < <(rows clear_ranges)
     truncate -s 1M "$DEV/boot_para"
     expect 0 "" hwknobs clear --ddr-data
     [[ $(bytes 0xfffff 1) == 78 ]]
@@ -95,7 +94,7 @@ $none" hwknobs --verbose --file=. status --partition
         patch "$offset" "$value"
         run -1 hwknobs --verbose status --partition
         grep -qxF "$said" <<<"$output" || fail "$offset: $output"
-    done <"$data/damaged_partitions.txt"
+    done < <(rows damaged_partitions)
     cp "$DEV/good" "$DEV/boot_para"
     patch 0x200 'abcdefghijklmnopqrstuvwxyz12345\0'
     run -1 hwknobs status --partition

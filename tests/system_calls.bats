@@ -7,14 +7,15 @@ load device
     needs_strace
     hwknobs setname kaslr_disable
     cp "$DEV/boot_para" "$DEV/good"
-    local partition=/dev/block/by-name/boot_para command filter inject said
-    while IFS='|' read -r command filter inject said; do
+    local partition=/dev/block/by-name/boot_para command filter inject said errors
+    # shellcheck disable=SC2034 # errors is for said_errors
+    while IFS='|' read -r command filter inject said errors; do
         cp "$DEV/good" "$DEV/boot_para"
         # shellcheck disable=SC2086
-        run -1 timeout 20 "$device_script" run "$DEV" env ASAN_OPTIONS=detect_leaks=0 \
+        run -1 --separate-stderr timeout 20 "$device_script" run "$DEV" env ASAN_OPTIONS=detect_leaks=0 \
             strace -o /dev/null ${filter/PART/-P $partition} -e "inject=$inject" hwknobs $command
-        [[ ${lines[-1]//$partition/PART} == "$said"* ]] || fail "$command $inject: $output"
-    done <"$data/failing_calls.txt"
+        { [[ ${lines[-1]//$partition/PART} == "$said"* ]] && said_errors; } || fail "$command $inject: $output" "$stderr"
+    done < <(rows failing_calls)
 }
 
 @test "what is written is written through" {
