@@ -92,11 +92,13 @@ xml() { hwknobs xmlconfig-set <<<"<hwknobs name='n' platform='px8314'>$1</hwknob
          <dtbo>first</dtbo><plsetting><item key="a" value="2"/><item key="B.c" value="x y"/></plsetting>
          <dtbo><![CDATA[/* <&> */]]><x/></dtbo>'
     [[ $(head -c 18 "$DEV/data/source") == "/* <&> */"$'\n'"&chosen " ]]
-    [[ $(bytes 0x408 14) == "$(printf 'B.c=x y\0a=2\0\0\0' | od -An -tx1 | tr -d ' \n')" && $(bytes 0x200 2) == 6e00 ]]
+    [[ $(bytes 0x408 14) == "$(hex 'B.c=x y\0a=2\0\0\0')" && $(bytes 0x200 2) == 6e00 ]]
     run -0 xml '<plsetting><item key="x"/></plsetting>' # no source, no blob
     [[ ${lines[2]} == "WARN: skip null value 0x"*", (nil)" && $(bytes 0x804 4) == 00000000 ]]
     hwknobs xmlconfig-set <<<"<hwknobs name='a2345678901234567890123456789012345' platform='px8314'/>"
     [[ $(bytes 0x21e 2) == 3100 ]] # cut to 31 characters
+    printf '%-4095s' "<hwknobs name='n' platform='px8314'/>" >"$DEV/data/largest"
+    ends_in 0 "config generate ok" hwknobs xmlconfig-set largest
     xml '<dtbo>
 <![CDATA[lost]]></dtbo>' # the first child alone counts, a newline here
     [[ $(grep -c lost "$DEV/data/source") == 0 ]]
@@ -116,5 +118,6 @@ xml() { hwknobs xmlconfig-set <<<"<hwknobs name='n' platform='px8314'>$1</hwknob
     head -c 4096 /dev/zero | tr '\0' ' ' >"$DEV/data/large"
     ends_in 1 $'\t> n < sizeof(buf)' hwknobs xmlconfig-set large
     ends_in 1 "ERROR: Can't open input file none, 2" hwknobs xmlconfig-set none
+    ends_in 1 "ERROR: xml config file size too small" hwknobs xmlconfig-set . # a folder
     cmp "$DEV/boot_para" "$DEV/before"
 }

@@ -13,9 +13,9 @@ load device
         [[ ${output#*randomize-base$'\n'} == "$(printf '%b' "$said")" ]] || fail "$body: $output"
         is_blank
     done < <(rows failing_compilers)
-    compiler dtc <<<'cat >/dev/null; exit 1'
+    compiler dtc <<<'cat >/dev/null; seq 2000 >&2; exit 1' # more than one read takes
     run -1 hwknobs --verbose setname kaslr_disable
-    [[ $output == *"DEBUG: Dump dt_fragment:
+    [[ $output == *$'\n'"$(seq 2000)"$'\n==================\n'"DEBUG: Dump dt_fragment:
 DEBUG: /dts-v1/;"* ]]
 }
 
@@ -57,15 +57,19 @@ DEBUG: /dts-v1/;"* ]]
     [[ $output == *"kaslr_disable"* ]]
 }
 
-@test "reading back: the command, long names and no output" {
+@test "the command that reads back, and long names of compilers" {
     hwknobs setname kaslr_disable
     compiler dtc_vendor <<<'echo "$@" >arguments; cat >/dev/null'
     DTCBIN="unset" run -1 device run env PATH=/data/local/tmp:/system/bin:/usr/bin hwknobs status --partition
     [[ ${lines[-1]} == "== dts (size: 0) ==" ]]
     [[ $(<"$DEV/data/arguments") == "-Wno-unit_address_vs_reg -I dtb -O dts -" ]]
-    local name
-    name=$(printf 'd%.0s' {1..250})
-    compiler "$name" <<<'echo "$@" >arguments; cat >/dev/null'
+    export DTCBIN
+    compiler names <<<'echo "$@" >arguments; exec dtc "$@"'
+    DTCBIN=$(printf './%.0s' {1..123})names
     run -1 hwknobs status --partition
-    [[ $(<"$DEV/data/arguments") == -W ]] # 2 + 250 + 3 characters
+    [[ $(<"$DEV/data/arguments") == -Wn ]] # 251 + 4 characters
+    DTCBIN=$(printf './%.0s' {1..125})names/not
+    run -1 hwknobs status --partition
+    [[ $(<"$DEV/data/arguments") == "" ]] # the first 255 characters of the name
+    ends_in 0 "config set ok" hwknobs setname kaslr_disable
 }

@@ -60,7 +60,7 @@ whole_catalogue() {
     local shell
     for shell in fish zsh bash; do
         {
-            cat "$data/completions.txt"
+            rows completions
             if [[ $shell == bash ]]; then whole_catalogue; fi
         } >cases
         echo "in $shell:"

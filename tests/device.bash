@@ -56,7 +56,9 @@ id_of() { hwknobs list | awk -v name="$1" '$0 ~ " " name " " { print $1 }'; }
 
 # patch OFFSET BYTES: overwrites a part of the partition; BYTES as printf knows them.
 patch() { printf "%b" "$2" | dd of="$DEV/boot_para" bs=1 seek=$(($1)) conv=notrunc status=none; }
-bytes() { dd if="$DEV/boot_para" bs=1 skip=$(($1)) count=$(($2)) status=none | od -An -v -tx1 | tr -d ' \n'; }
+bytes() { dd if="$DEV/boot_para" bs=1 skip=$(($1)) count=$(($2)) status=none | digits; }
+hex() { printf '%b' "$1" | digits; }
+digits() { od -An -v -tx1 | tr -d ' \n'; }
 is_blank() { cmp -s -n "$(stat -c %s "$DEV/boot_para")" "$DEV/boot_para" /dev/zero; }
 
 no_id() { sed -E '/Activate/s/\([0-9]+\)/(ID)/'; }

@@ -23,8 +23,9 @@ std::string id_of(const hwknobs_config& row) { return std::to_string(row.id); }
 
 TEST(ItemWords, Arguments) {
     const std::tuple<const hwknobs_config&, const char*, decltype(config_item::arg)> cases[] = {
-        {signed_row, "a-3", -3},     {signed_row, "a0x10", 16}, {signed_row, "a010", 8},
-        {signed_row, "a 12abc", 12}, {unsigned_row, "a7", 7U},  {unsigned_row, "u4294967295", 4294967295U},
+        {signed_row, "a-3", -3},     {signed_row, "a0x10", 16},    {signed_row, "a010", 8},
+        {signed_row, "a 12abc", 12}, {signed_row, "a0", 0},        {unsigned_row, "a0", 0U},
+        {unsigned_row, "a7", 7U},    {unsigned_row, "u0x10", 16U}, {unsigned_row, "u4294967295", 4294967295U},
         {free_row, "s", ""},         {free_row, "sa-1", "a-1"},
     };
     for (const auto& [row, word, arg] : cases) {

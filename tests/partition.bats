@@ -40,6 +40,7 @@ expected_image() {
 @test "another file gets the image, the default partition is cleared all the same" {
     compiler blob <<<'cat >/dev/null; printf "b%.0s" $(seq 1001)'
     hwknobs setname kaslr_disable
+    patch 0x3fffff x
     hwknobs --file=out setname kaslr_disable
     is_blank
     [[ $(stat -c '%s %a' "$DEV/data/out") == "$((0xa00 + 1008)) 600" ]]
@@ -48,6 +49,14 @@ expected_image() {
     [[ $(stat -c %s "$DEV/data/even") == $((0xa00 + 1024)) ]]
     hwknobs --file=out setname -r kaslr_disable
     [[ $(stat -c %s "$DEV/data/out") == $((0x20e00)) ]]
+    DTCBIN=dtc hwknobs --file=out setname -r kaslr_disable
+    DTCBIN=dtc run -0 hwknobs --file=out setname -m kmemleak_disable
+    [[ ${lines[0]} == *"#item=2" ]]
+    DTCBIN=dtc run -1 hwknobs --file=out status --partition
+    [[ ${lines[0]} == *"failure recovery 1" && ${lines[-1]} == "   Activate  kmemleak_disable("* ]]
+    hwknobs --file=out xmlconfig-set <<<"<hwknobs name='other' platform='px8314'/>"
+    [[ $(tail -c +513 "$DEV/data/out" | head -c 6 | tr '\0' .) == other. ]]
+    is_blank
     expect 1 "ERROR: Cannot read file out dt blob (No data available)" \
         device run sh -c 'truncate -s 5000 out; hwknobs --file=out status --partition'
     ends_in 1 "ERROR: Cannot open output file /none/out" hwknobs --file=/none/out setname kaslr_disable
@@ -69,7 +78,7 @@ expected_image() {
     truncate -s $((0x100001)) "$DEV/boot_para"
     run -0 hwknobs --verbose clear --all
     [[ $output == "DEBUG: hwknobs_partimage_clear: filename /dev/block/by-name/boot_para action 0
-DEBUG: start offset 0 end offset 1048577" ]]
+DEBUG: start offset 0 end offset 1048577" && $(stat -c %s "$DEV/boot_para") == $((0x100001)) ]]
     truncate -s $((0x8000000)) "$DEV/boot_para"
     expect 0 "" hwknobs clear
     truncate -s $((0x8000001)) "$DEV/boot_para"

@@ -3,22 +3,28 @@
 load device
 
 @test "the exact source of a setting" {
+    local before after stamp
     compiler record <<<'cat >source; printf blob'
+    export TZ=X-14 # nobody's local time
+    before=$(date +'%F %T')
     hwknobs set -r "$(id_of lcm_settings)" a-2 "$(id_of kaslr_disable)" "$(id_of perf_stat_events)" sa,b-1 >"$DEV/output"
     no_id <"$DEV/output" | diff "$data/set_output.txt" -
     no_id <"$DEV/data/source" | no_timestamp | diff - "$data/set_source.dts"
-    [[ $(bytes 0x408 18) == "$(printf 'perf_event=a,b-1\0\0' | od -An -v -tx1 | tr -d ' \n')" ]]
+    after=$(date +'%F %T')
+    stamp=$(sed -n 's/.*timestamp = "\(.*\)".*/\1/p' "$DEV/data/source")
+    [[ ! $stamp < $before && ! $stamp > $after ]]
+    [[ $(bytes 0x408 18) == "$(hex 'perf_event=a,b-1\0\0')" ]]
 }
 
 @test "modify, delete and the recovery flag keep what they do not name" {
     local id names
     id=$(id_of lcm_settings)
     hwknobs setname kaslr_disable lcm_settings a1 kmemleak_disable
-    run -0 hwknobs setname -m perf_stat_events scycles lcm_settings a9
+    run -0 hwknobs setname --modify perf_stat_events scycles lcm_settings a9
     names=$(sed -n 's/^\tActivate  \([^(]*\).*/\1/p' <<<"$output" | xargs)
     [[ $names == "kaslr_disable lcm_settings kmemleak_disable perf_stat_events" ]]
     [[ $output == *"lcm_settings($id)[arg=9]"* ]]
-    run -0 hwknobs set -d "$id" "$(id_of enable_gpu_acp)"
+    run -0 hwknobs set --delete "$id" "$(id_of enable_gpu_acp)"
     [[ ${lines[0]} == "warn: cannot find item enable_gpu_acp to delete" && ${lines[1]} == *"#item=3" ]]
 
     hwknobs set -m --recovery
@@ -47,6 +53,15 @@ load device
     [[ $output == "ERROR: Cannot change the setting in "*"the stored items are unknown" ]]
     cmp "$DEV/boot_para" "$DEV/before"
     hwknobs --plat=px7314 setname -m kmemleak_disable # another platform's name passes
+}
+
+@test "another platform than the device's" {
+    hwknobs --plat=px7314 setname lcm_settings a2
+    run -0 hwknobs setname -m kmemleak_disable # the setting stays one of its platform
+    [[ ${lines[0]} == "Config set (platform px7314), #item=2" && $(bytes 0x220 7) == "$(hex 'px7314\0')" ]]
+    [[ ${lines[1]} == *" lcm_settings("*")[arg=2]"* && ${lines[2]} == *" kmemleak_disable($(id_of kmemleak_disable))"* ]]
+    run -0 hwknobs --plat=px0000 set 1
+    [[ ${lines[0]} == "Config set (platform px0000), #item=1" && $(bytes 0x220 7) == "$(hex 'px0000\0')" ]]
 }
 
 @test "an empty partition: modify makes a setting, delete does nothing" {

@@ -18,8 +18,9 @@ load device
     done < <(rows failing_calls)
 }
 
-@test "what is written is written through" {
+@test "what is written is written through, and never by a standard descriptor" {
     needs_strace
-    device run env ASAN_OPTIONS=detect_leaks=0 strace -o log -P /dev/block/by-name/boot_para hwknobs setname kaslr_disable
-    [[ $(grep -c 'O_RDWR.*O_SYNC' "$DEV/data/log") == 2 ]]
+    device run env ASAN_OPTIONS=detect_leaks=0 strace -o log -P /dev/block/by-name/boot_para \
+        sh -c 'exec hwknobs setname kaslr_disable <&- 2>&-'
+    [[ $(grep -c 'O_RDWR.*O_SYNC' "$DEV/data/log") == 2 && $(grep -c 'open.* = [0-2]$' "$DEV/data/log") == 0 ]]
 }
