@@ -38,9 +38,6 @@ load device
     rm "$chosen/atag,chipid"
     expect 1 "Fail to open /proc/device-tree/chosen/atag,chipid(2), No such file or directory
 $unknown" hwknobs list
-}
-
-@test "verbose tells how the platform was found" {
     echo 1206 >"$DEV/proc/chip/hw_code"
     run -0 hwknobs --verbose list
     [[ ${output%%XPR*} == "DEBUG: platform query hw_code 1206

@@ -39,7 +39,12 @@ load device
 
 @test "what is refused leaves the partition as it was" {
     local none="ERROR: No item set by arguments" mismatch="ERROR: platform name mismatch between setting and partition"
-    hwknobs setname kaslr_disable
+    expect 0 "<<partition>>
+  hwknobs partition setting doesn't exist
+Skip delete option" hwknobs setname -d kaslr_disable
+    is_blank
+    run -0 hwknobs setname -m kaslr_disable
+    [[ ${lines[0]} == "Config set (platform px8314), #item=1" ]]
     cp "$DEV/boot_para" "$DEV/before"
     expect 1 "$none" hwknobs set
     expect 1 "$none" hwknobs set -m
@@ -62,15 +67,6 @@ load device
     [[ ${lines[1]} == *" lcm_settings("*")[arg=2]"* && ${lines[2]} == *" kmemleak_disable($(id_of kmemleak_disable))"* ]]
     run -0 hwknobs --plat=px0000 set 1
     [[ ${lines[0]} == "Config set (platform px0000), #item=1" && $(bytes 0x220 7) == "$(hex 'px0000\0')" ]]
-}
-
-@test "an empty partition: modify makes a setting, delete does nothing" {
-    expect 0 "<<partition>>
-  hwknobs partition setting doesn't exist
-Skip delete option" hwknobs setname -d kaslr_disable
-    is_blank
-    run -0 hwknobs setname -m kaslr_disable
-    [[ ${lines[0]} == "Config set (platform px8314), #item=1" ]]
 }
 
 @test "an imported setting without overlay holds no items, and can be changed" {
