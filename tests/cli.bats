@@ -49,10 +49,10 @@ DEBUG: plat px1206 hw_code 1206
 
 @test "groups" {
     local groups
-    expect 0 "This platfrom does not support groups." hwknobs --plat=px0000 list-group
+    expect 0 "This platfrom does not support groups." hwknobs --plat=px8314 --plat px0000 list-group
     expect 0 "$(<"$data/groups.txt")" hwknobs list-group
-    run -0 hwknobs list word -g KERNEL --group GPU --all
-    [[ ${lines[0]} == "XPR config list V2 (arch px8314) group selected:( KERNEL  GPU )" ]]
+    run -0 --separate-stderr hwknobs list --bad word -g KERNEL --group GPU --all
+    [[ $stderr == "list: unrecognized option '--bad'" && ${lines[0]} == "XPR config list V2 (arch px8314) group selected:( KERNEL  GPU )" ]]
     [[ $(tail -n +4 <<<"$output" | awk '{ print $NF }' | sort -u | xargs) == "GPU KERNEL" ]]
     mapfile -t groups < <(tail -n +4 "$data/groups.txt" | awk '{ print $2 }')
     run -0 hwknobs list "${groups[@]/#/--group=}"

@@ -12,7 +12,7 @@ load device
     expect 0 "" hwknobs result
     expect 0 "DEBUG: hwknobs_boot_status: boot para read hwknobs header failed, size mismatch 3" hwknobs --verbose result
     expect 0 "" hwknobs --file=none result
-    expect 0 "DEBUG: hwknobs_boot_status: Cannot open file none" hwknobs --verbose --file=none result
+    expect 0 "DEBUG: hwknobs_boot_status: Cannot open file none" hwknobs --verbose --file=x --file none result
 }
 
 @test "auth-status: every code" {

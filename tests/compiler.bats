@@ -47,12 +47,13 @@ DEBUG: /dts-v1/;"* ]]
     [[ $(grep -c '' <<<"$output") == 6 && $output == *$'==================\nERROR: DTC \'/none\' failed (status 1)' ]]
 }
 
-@test "the child starts with default signals, the tool survives an ignored SIGCHLD" {
+@test "the child starts with default signals and without the partition, the tool survives an ignored SIGCHLD" {
     local caller=(env --ignore-signal={CHLD,PIPE,INT} --block-signal=USR1)
     # This shell keeps the signals that it was started with, others reset some.
-    compiler dtc bash <<<'grep -E "^Sig(Ign|Blk)" /proc/self/status >signals; exec dtc "$@"'
+    compiler dtc bash <<<'grep -E "^Sig(Ign|Blk)" /proc/self/status >signals; readlink /proc/self/fd/* >files; exec dtc "$@"'
     run -0 device run "${caller[@]}" hwknobs setname kaslr_disable
     [[ ! -s $DEV/data/signals || $(tr -d '\n' <"$DEV/data/signals") =~ ^SigBlk:.0+SigIgn:.0+$ ]]
+    [[ $(<"$DEV/data/files") != *boot_para* ]]
     run -1 device run "${caller[@]}" hwknobs status --partition
     [[ $output == *"kaslr_disable"* ]]
 }

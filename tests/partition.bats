@@ -55,7 +55,7 @@ expected_image() {
     DTCBIN=dtc run -1 hwknobs --file=out status --partition
     [[ ${lines[0]} == *"failure recovery 1" && ${lines[-1]} == "   Activate  kmemleak_disable("* ]]
     hwknobs --file=out xmlconfig-set <<<"<hwknobs name='other' platform='px8314'/>"
-    [[ $(tail -c +513 "$DEV/data/out" | head -c 6 | tr '\0' .) == other. ]]
+    [[ $(tail -c +513 "$DEV/data/out" | head -c 6 | tr '\0' .) == other. && $(stat -c %s "$DEV/data/out") == $((0x20e00)) ]]
     is_blank
     expect 1 "ERROR: Cannot read file out dt blob (No data available)" \
         device run sh -c 'truncate -s 5000 out; hwknobs --file=out status --partition'
@@ -84,6 +84,8 @@ DEBUG: start offset 0 end offset 1048577" && $(stat -c %s "$DEV/boot_para") == $
     truncate -s $((0x8000001)) "$DEV/boot_para"
     expect 1 "ERROR: hwknobs_partimage_clear: partition size too large" hwknobs clear
     expect 1 "ERROR: Cannot open output file none" hwknobs --file=none clear
+    mkfifo "$DEV/data/pipe" # which is no reason to wait for somebody who writes to it
+    expect 1 "ERROR: Partition size too small -1" timeout 20 "$device_script" run "$DEV" hwknobs --file=pipe clear
 }
 
 @test "no setting, and a damaged one" {
@@ -108,7 +110,10 @@ $none" hwknobs --verbose --file=. status --partition
     patch 0x200 'abcdefghijklmnopqrstuvwxyz12345\0'
     run -1 hwknobs status --partition
     [[ ${lines[0]} == "<<partition>> hwknobs partition setting name abcdefghijklmnopqrstuvwxyz12345 plat px8314 failure recovery 0" ]]
-    truncate -s 500 "$DEV/boot_para"
-    run -1 hwknobs --verbose status --partition
-    [[ $output == *"DEBUG: load: boot para read failed, size mismatch 500"* ]]
+    while read -r value said; do
+        cp "$DEV/good" "$DEV/boot_para"
+        truncate -s $((value)) "$DEV/boot_para"
+        run -1 hwknobs --verbose status --partition
+        grep -qxF "$said" <<<"$output" || fail "$value: $output"
+    done < <(rows cut_partitions)
 }

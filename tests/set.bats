@@ -85,6 +85,13 @@ Skip delete option" hwknobs setname -d kaslr_disable
     run -0 hwknobs --verbose --file=../../../dev/block/by-name/boot_para setname -m kmemleak_disable
     wait $!
     [[ $output == *"DEBUG: /dev/block/by-name/boot_para: another command is changing it, waiting"*"#item=2"* ]]
+    rm "$DEV/data/started"
+    hwknobs setname kaslr_disable &
+    until [[ -e $DEV/data/started ]]; do sleep 0.05; done
+    hwknobs --verbose clear >"$DEV/cleared" &
+    hwknobs --verbose xmlconfig-set >"$DEV/imported" <<<"<hwknobs name='n' platform='px8314'/>"
+    wait
+    grep -q waiting "$DEV/cleared" && grep -q waiting "$DEV/imported"
 }
 
 @test "every row without an argument at once, and long strings, come back whole" {

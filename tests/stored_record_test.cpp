@@ -8,7 +8,7 @@
 namespace {
 
 std::vector<config_item> read_back(const std::string& dts) {
-    std::vector<config_item> items;
+    std::vector<config_item> items{config_item(&row_with(config_arg_kind::int32), 1)};  // an old one, to be dropped
     save_hwknobs_effect_status(plat_with_ids, dts.c_str(), items);
     return items;
 }
@@ -20,8 +20,10 @@ std::string line(const hwknobs_config& row, const char* argument) {
 TEST(StoredRecord, LinesAndArguments) {
     const std::tuple<config_arg_kind, const char*, decltype(config_item::arg)> cases[] = {
         {config_arg_kind::int32, "[arg=3]", 3},
+        {config_arg_kind::int32, "[arg=010]", 10},
         {config_arg_kind::int32, "[arg=-3]", 0},  // digits only
         {config_arg_kind::uint32, "[arg=4294967295]", 4294967295U},
+        {config_arg_kind::uint32, "[arg=010]", 10U},
         {config_arg_kind::string, "[str=a-b_C]", "a-b_C"},
         {config_arg_kind::string, "[str=cpu0]", ""},  // no digits
         {config_arg_kind::string, "[str=a,b]", ""},
@@ -37,6 +39,11 @@ TEST(StoredRecord, LinesAndArguments) {
         EXPECT_EQ(items[1].cfg, &other);
     }
     EXPECT_TRUE(read_back("").empty());
+    const std::string value = "Activate  any name(010) ";  // the number decides, which is decimal
+    const auto longest = [&value](std::size_t size) { return "item = \"" + value + std::string(size, 'x') + "\";"; };
+    EXPECT_EQ(read_back(longest(4095 - value.size())).at(0).number, 10U);
+    // A longer one is looked at forever.
+    EXPECT_EXIT((alarm(1), read_back(longest(4096 - value.size()))), testing::KilledBySignal(SIGALRM), "");
     const hwknobs_config& listed = row_with(config_arg_kind::string, true);
     EXPECT_ERROR(read_back(line(listed, "[str=0x]")), fmt::format("config {} not allowed ''", listed.name));
 }
