@@ -1,6 +1,5 @@
 #include "hwknobs_plat/catalogue/platforms.h"
 
-
 namespace {
 
 #define HWKNOBS_POINT_AT_PLATFORM(name, code) &(name),
