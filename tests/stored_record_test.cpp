@@ -40,10 +40,12 @@ TEST(StoredRecord, LinesAndArguments) {
     }
     EXPECT_TRUE(read_back("").empty());
     const std::string value = "Activate  any name(010) ";  // the number decides, which is decimal
-    const auto longest = [&value](std::size_t size) { return "item = \"" + value + std::string(size, 'x') + "\";"; };
-    EXPECT_EQ(read_back(longest(4095 - value.size())).at(0).number, 10U);
+    const auto of_size = [&value](std::size_t size) {
+        return "items = \"" + value + std::string(size - value.size(), 'x') + "\";";
+    };
+    EXPECT_EQ(read_back(of_size(4095)).at(0).number, 10U);
     // A longer one is looked at forever.
-    EXPECT_EXIT((alarm(1), read_back(longest(4096 - value.size()))), testing::KilledBySignal(SIGALRM), "");
+    EXPECT_EXIT((alarm(1), read_back(of_size(4096))), testing::KilledBySignal(SIGALRM), "");
     const hwknobs_config& listed = row_with(config_arg_kind::string, true);
     EXPECT_ERROR(read_back(line(listed, "[str=0x]")), fmt::format("config {} not allowed ''", listed.name));
 }
