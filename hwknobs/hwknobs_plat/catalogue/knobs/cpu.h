@@ -10,7 +10,7 @@ inline constexpr knob boot_core_only = {
 
 template <word AllCores>
 inline constexpr knob cpu_start_mask_set = {
-    CPU, "cpu_start_mask_set", text<"Set mask of cores to start, bit 0 is the boot core (0x1-{})", AllCores>,
+    CPU, "cpu_start_mask_set", text<"Set mask of cores to start, keep bit 0, the boot core (0x1-{})", AllCores>,
     dt_arg("&chosen { cpu-start-mask = <0x%x>; };")};
 
 // The kernel starts a core whatever the status of its node but "fail", and does not look at that of a cluster. These
@@ -150,23 +150,24 @@ inline constexpr knob svs_disable = {
     CPU, "svs_disable", "Disable adaptive voltage scaling of the CPU supplies",
     both("avs", "off", R"(&svs { status = "disabled"; };)")};
 inline constexpr knob cpu_voltage_offset = {
-    CPU, "cpu_voltage_offset", "Offset CPU voltage in uV (-50000 to 50000)",
+    CPU, "cpu_voltage_offset", "Offset CPU voltage in uV (-50000 to 50000), may hang or damage",
     dt_arg("&svs_cpu { voltage-offset-microvolt = <%d>; };")};
 
 // A row for each supply that the clusters have of their own.
 template <word Cluster>
 inline constexpr knob cluster_voltage_offset = {
-    CPU, text<"{}_voltage_offset", Cluster>, text<"Offset {} cluster voltage in uV (-50000 to 50000)", Cluster>,
+    CPU, text<"{}_voltage_offset", Cluster>,
+    text<"Offset {} cluster voltage in uV (-50000 to 50000), may damage", Cluster>,
     dt_arg(text<"&svs_{} { voltage-offset-microvolt = <%d>; };", Cluster>)};
 
 inline constexpr knob droop_disable = {
     CPU, "droop_disable", "Disable clock stretching on big cluster voltage droop",
     dt(R"(&droop_big { status = "disabled"; };)")};
 inline constexpr knob cpu_throttle_disable = {
-    CPU, "cpu_throttle_disable", "Disable thermal throttling of the CPUs",
+    CPU, "cpu_throttle_disable", "Disable thermal throttling of the CPUs (they may overheat)",
     dt(R"(&cpu_cooling { status = "disabled"; };)")};
 inline constexpr knob cpu_trip_set = {
-    CPU, "cpu_trip_set", "Set CPU throttling trip in millidegrees Celsius (60000-105000)",
+    CPU, "cpu_trip_set", "Set CPU throttling trip in millidegrees C (60000-105000), may overheat",
     dt_arg("&cpu_alert0 { temperature = <%d>; };")};
 
 template <word Cores, unsigned Number, word About>

@@ -59,7 +59,7 @@ inline constexpr knob dram_refresh_per_bank = {
     DRAM, "dram_refresh_per_bank", "Use per-bank refresh instead of all-bank refresh",
     dt(R"(&dramc { refresh-mode = "per-bank"; };)"), choice{"DRAM refresh mode"}};
 inline constexpr knob dram_mr4_tracking_disable = {
-    DRAM, "dram_mr4_tracking_disable", "Ignore DRAM temperature (MR4) and keep nominal refresh rate",
+    DRAM, "dram_mr4_tracking_disable", "Ignore DRAM temperature (MR4), nominal refresh (hot: data loss)",
     dt("&dramc { mr4-tracking-disable; };")};
 inline constexpr knob dram_refresh_all_bank = {
     DRAM, "dram_refresh_all_bank", "Use all-bank refresh instead of per-bank refresh",
@@ -67,11 +67,12 @@ inline constexpr knob dram_refresh_all_bank = {
 
 template <unsigned MaxCode>
 inline constexpr knob dram_mr4_override = {
-    DRAM, "dram_mr4_override", text<"Override MR4 refresh rate code read from DRAM (0-{})", MaxCode>,
+    DRAM, "dram_mr4_override", text<"Override MR4 refresh rate code of DRAM (0-{}), may lose data", MaxCode>,
     dt_arg("&dramc { mr4-override = <0x%x>; };")};
 
 inline constexpr knob dram_rfm_disable = {
-    DRAM, "dram_rfm_disable", "Disable DRAM refresh management (RFM)", dt("&dramc { rfm-disable; };")};
+    DRAM, "dram_rfm_disable", "Disable DRAM refresh management (RFM), may corrupt data",
+    dt("&dramc { rfm-disable; };")};
 inline constexpr knob dram_self_refresh_disable = {
     DRAM, "dram_self_refresh_disable", "Disable self-refresh entry of idle DRAM controller",
     dt("&dramc { idle-self-refresh-disable; };")};
@@ -85,12 +86,17 @@ inline constexpr knob dram_wck_always_on = {
 inline constexpr knob dram_odt_disable = {
     DRAM, "dram_odt_disable", "Disable DQ on-die termination (ODT) of DRAM", env("ddr_odt", "off"),
     choice{"DRAM termination"}};
-inline constexpr knob dram_odt_set = {
-    DRAM, "dram_odt_set", "Set DQ on-die termination of DRAM (40, 48, 60, 80, 120 or 240 ohms)",
-    env_arg("ddr_odt", "0x%x"), choice{"DRAM termination"}};
-inline constexpr knob dram_drive_set = {
-    DRAM, "dram_drive_set", "Set DRAM output driver impedance (40, 48, 60, 80, 120 or 240 ohms)",
-    env_arg("ddr_drv", "0x%x")};
+
+// The chips know 240 ohms divided by 1 to 6, here and for the driver.
+template <unsigned Ohms>
+inline constexpr knob dram_odt = {
+    DRAM, text<"dram_odt_{}ohm", Ohms>, text<"Set DQ on-die termination of DRAM to {} ohms", Ohms>,
+    env("ddr_odt", text<"{}", Ohms>), choice{"DRAM termination"}};
+template <unsigned Ohms>
+inline constexpr knob dram_drive = {
+    DRAM, text<"dram_drive_{}ohm", Ohms>, text<"Set DRAM output driver impedance to {} ohms", Ohms>,
+    env("ddr_drv", text<"{}", Ohms>)};
+
 inline constexpr knob dram_dbi_disable = {
     DRAM, "dram_dbi_disable", "Disable DRAM data bus inversion (DBI)", env("ddr_dbi", "off")};
 inline constexpr knob dram_link_ecc_disable = {

@@ -26,10 +26,10 @@ inline constexpr knob gpu_dvfs_period_set = {
     GPU, "gpu_dvfs_period_set", "Set GPU load sampling period for DVFS in ms (1-1000)",
     dt_arg("&mali { dvfs-period-ms = <0x%x>; };")};
 inline constexpr knob gpu_throttle_disable = {
-    GPU, "gpu_throttle_disable", "Disable thermal throttling of the GPU",
+    GPU, "gpu_throttle_disable", "Disable thermal throttling of the GPU (it may overheat)",
     dt("&gpufreq { thermal-throttle-disable; };")};
 inline constexpr knob gpu_voltage_offset = {
-    GPU, "gpu_voltage_offset", "Offset GPU voltage in uV (-50000 to 50000)",
+    GPU, "gpu_voltage_offset", "Offset GPU voltage in uV (-50000 to 50000), may hang or damage",
     dt_arg("&gpufreq { voltage-offset-microvolt = <%d>; };")};
 inline constexpr knob gpu_speed_bin_ignore = {
     GPU, "gpu_speed_bin_ignore", "Ignore GPU speed bin fuses and use the default OPP table", env("gpu_bin", "off")};

@@ -66,7 +66,7 @@ inline constexpr knob rcu_exp_stall_timeout_200ms = {
     KERNEL, "rcu_exp_stall_timeout_200ms", "Set expedited RCU stall timeout to 200 ms",
     dt("&chosen { rcu-exp-cpu-stall-timeout-ms = <200>; };")};
 inline constexpr knob watchdog_disable = {
-    KERNEL, "watchdog_disable", "Disable hardware watchdog in bootloader and kernel",
+    KERNEL, "watchdog_disable", "Disable hardware watchdog in bootloader and kernel (hangs stay hung)",
     both("wdt_boot", "off", R"(&watchdog { status = "disabled"; };)")};
 inline constexpr knob watchdog_timeout_set = {
     KERNEL, "watchdog_timeout_set", "Set hardware watchdog time in seconds (10-120)",
@@ -167,7 +167,7 @@ inline constexpr knob irq_handler_warn_10ms = {
     KERNEL, "irq_handler_warn_10ms", "Warn when a hard interrupt handler runs over 10 ms",
     dt("&chosen { irq-handler-limit-ms = <10>; };")};
 inline constexpr knob thermal_critical_ignore = {
-    KERNEL, "thermal_critical_ignore", "Ignore critical temperature trip points",
+    KERNEL, "thermal_critical_ignore", "Ignore critical temperature trip points (may overheat and damage)",
     dt(R"(&chosen { thermal-critical-status = "disabled"; };)")};
 inline constexpr knob pseudo_nmi_enable = {
     KERNEL, "pseudo_nmi_enable", "Enable pseudo-NMI by GIC priorities (hard lockup backtrace)",

@@ -12,7 +12,7 @@ inline constexpr knob buck_plus_25mv = {
 
 template <word Buck>
 inline constexpr knob buck_offset = {
-    PMIC, text<"buck_{}_offset", Buck>, text<"Offset buck {} in uV (-50000 to 50000)", Buck>,
+    PMIC, text<"buck_{}_offset", Buck>, text<"Offset buck {} in uV (-50000 to 50000), may hang or damage", Buck>,
     dt_arg(text<"&{} { regulator-microvolt-offset = <%d>; };", Buck>)};
 
 inline constexpr knob buck_pwm_all = {
@@ -29,24 +29,26 @@ inline constexpr knob pmic_lp_mode_disable = {
 inline constexpr knob ldo_vsd33_on = {
     PMIC, "ldo_vsd33_on", "Keep SD card LDO vsd33 on", dt("&vsd33 { regulator-always-on; };")};
 inline constexpr knob pmic_oc_log_only = {
-    PMIC, "pmic_oc_log_only", "Log regulator over-current, do not switch off",
+    PMIC, "pmic_oc_log_only", "Log regulator over-current, do not switch off (may damage parts)",
     dt(R"(&pmic { over-current-action = "log"; };)")};
 inline constexpr knob buck_vgpu11_oc_error_set = {
-    PMIC, "buck_vgpu11_oc_error_set", "Set over-current error limit of buck vgpu11 in uA",
+    PMIC, "buck_vgpu11_oc_error_set", "Set over-current limit of buck vgpu11 in uA (high may damage it)",
     dt_arg("&vgpu11 { regulator-oc-error-microamp = <0x%x>; };")};
 inline constexpr knob pmic_uvlo_2600mv = {
-    PMIC, "pmic_uvlo_2600mv", "Set PMIC under-voltage lockout to 2600 mV", env("uvlo_mv", "2600")};
+    PMIC, "pmic_uvlo_2600mv", "Set PMIC under-voltage lockout to 2600 mV (may damage battery)", env("uvlo_mv", "2600")};
 inline constexpr knob pmic_thermal_shutdown_disable = {
-    PMIC, "pmic_thermal_shutdown_disable", "Disable PMIC thermal shutdown", dt("&pmic { thermal-shutdown-disable; };")};
+    PMIC, "pmic_thermal_shutdown_disable", "Disable PMIC thermal shutdown (may overheat and damage parts)",
+    dt("&pmic { thermal-shutdown-disable; };")};
 inline constexpr knob pwrkey_reset_disable = {
-    PMIC, "pwrkey_reset_disable", "Disable long-press reset of the power key",
+    PMIC, "pwrkey_reset_disable", "Disable long-press reset of the power key (no way out of a hang)",
     both("lprst", "off", "&pmic_keys { long-press-reset-disable; };")};
-inline constexpr knob pwrkey_reset_time_8s = {
-    PMIC, "pwrkey_reset_time_8s", "Set long-press reset time of the power key to 8 s",
-    dt("&pmic_keys { power-off-time-sec = <8>; };"), choice{"power key reset time"}};
-inline constexpr knob pwrkey_reset_time_set = {
-    PMIC, "pwrkey_reset_time_set", "Set long-press reset time of the power key (5, 8, 11 or 14 s)",
-    dt_arg("&pmic_keys { power-off-time-sec = <0x%x>; };"), choice{"power key reset time"}};
+
+// The chip knows 5, 8, 11 and 14 s.
+template <unsigned Seconds>
+inline constexpr knob pwrkey_reset_time = {
+    PMIC, text<"pwrkey_reset_time_{}s", Seconds>, text<"Set long-press reset time of the power key to {} s", Seconds>,
+    dt(text<"&pmic_keys { power-off-time-sec = <{}>; };", Seconds>), choice{"power key reset time"}};
+
 inline constexpr knob pmic_reset_cold = {
     PMIC, "pmic_reset_cold", "Power-cycle all rails on reboot", dt(R"(&pmic { reset-type = "cold"; };)"),
     choice{"PMIC reset"}};
@@ -54,7 +56,7 @@ inline constexpr knob pmic_reset_warm = {
     PMIC, "pmic_reset_warm", "Use warm reset on reboot and panic (DRAM stays powered)",
     dt(R"(&pmic { reset-type = "warm"; };)"), choice{"PMIC reset"}};
 inline constexpr knob pmic_wdt_disable = {
-    PMIC, "pmic_wdt_disable", "Disable PMIC watchdog",
+    PMIC, "pmic_wdt_disable", "Disable PMIC watchdog (a hang does not end by itself)",
     both("pmic_wdt", "off", R"(&pmic_watchdog { status = "disabled"; };)")};
 inline constexpr knob pmic_reg_dump = {
     PMIC, "pmic_reg_dump", "Dump PMIC registers in bootloader and at kernel probe",
@@ -75,20 +77,22 @@ inline constexpr knob chg_input_500ma = {
     PMIC, "chg_input_500ma", "Limit charger input current to 500 mA",
     dt("&charger { input-current-limit-microamp = <500000>; };")};
 inline constexpr knob chg_current_set = {
-    PMIC, "chg_current_set", "Set charge current limit in uA (100000-3000000)",
+    PMIC, "chg_current_set", "Set charge current limit in uA (100000-3000000), may damage battery",
     dt_arg("&charger { constant-charge-current-max-microamp = <0x%x>; };")};
 inline constexpr knob chg_jeita_disable = {
-    PMIC, "chg_jeita_disable", "Ignore JEITA temperature ranges when charging", dt("&charger { jeita-disable; };")};
+    PMIC, "chg_jeita_disable", "Ignore JEITA temperature ranges when charging (battery may burn)",
+    dt("&charger { jeita-disable; };")};
 inline constexpr knob gauge_soc_50 = {
-    PMIC, "gauge_soc_50", "Report fixed battery level of 50 percent", dt("&gauge { fixed-capacity-percent = <50>; };")};
+    PMIC, "gauge_soc_50", "Report fixed battery level of 50 percent (hides an empty battery)",
+    dt("&gauge { fixed-capacity-percent = <50>; };")};
 inline constexpr knob gauge_temp_set = {
-    PMIC, "gauge_temp_set", "Report fixed battery temperature in degrees Celsius (-20 to 60)",
+    PMIC, "gauge_temp_set", "Report fixed battery temperature in C (-20 to 60), hides overheating",
     dt_arg("&gauge { fixed-temperature-celsius = <%d>; };")};
 inline constexpr knob gauge_low_shutdown_disable = {
-    PMIC, "gauge_low_shutdown_disable", "Do not shut down at low battery voltage",
+    PMIC, "gauge_low_shutdown_disable", "Do not shut down at low battery voltage (may damage the battery)",
     dt("&gauge { low-voltage-shutdown-disable; };")};
 inline constexpr knob batt_throttle_disable = {
-    PMIC, "batt_throttle_disable", "Disable CPU and GPU throttling on battery voltage dips",
+    PMIC, "batt_throttle_disable", "Disable CPU and GPU throttling on battery voltage dips (may reset)",
     dt("&battery { voltage-dip-throttling-disable; };")};
 
 }  // namespace catalogue

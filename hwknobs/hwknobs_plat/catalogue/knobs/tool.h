@@ -19,7 +19,8 @@ inline constexpr knob adb_early_start = {
     TOOL, "adb_early_start", "Start adb early at boot", dt("&chosen { adb-early-start; };")};
 inline constexpr knob usb_dl_wait_30s = {
     TOOL, "usb_dl_wait_30s", "Wait 30 s for USB download at power-on", env("dl_wait", "30")};
-inline constexpr knob boot_fastboot = {TOOL, "boot_fastboot", "Boot into fastboot mode", env("mode", "fastboot")};
+inline constexpr knob boot_fastboot = {
+    TOOL, "boot_fastboot", "Stop in fastboot at every boot (Android no longer starts)", env("mode", "fastboot")};
 inline constexpr knob jtag_pins_enable = {
     TOOL, "jtag_pins_enable", "Enable JTAG on dedicated debug pins", env("jtag", "pin")};
 inline constexpr knob last_pc_print = {

@@ -118,7 +118,7 @@ constexpr knob rows[] = {
     ldo_vsd33_on,
     pmic_oc_log_only,
     pwrkey_reset_disable,
-    pwrkey_reset_time_8s,
+    pwrkey_reset_time<8>,
     pmic_reset_warm,
     pmic_reg_dump,
     pmic_irq_log,

@@ -99,7 +99,7 @@ constexpr knob rows[] = {
     ldo_vsd33_on,
     pmic_oc_log_only,
     pwrkey_reset_disable,
-    pwrkey_reset_time_8s,
+    pwrkey_reset_time<8>,
     pmic_reset_warm,
     pmic_reg_dump,
     chg_input_500ma,

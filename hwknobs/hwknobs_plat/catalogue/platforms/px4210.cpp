@@ -146,7 +146,7 @@ constexpr knob rows[] = {
     ldo_vsd33_on,
     pmic_oc_log_only,
     pwrkey_reset_disable,
-    pwrkey_reset_time_set,
+    pwrkey_reset_time<14>,
     pmic_reset_warm,
     pmic_wdt_disable,
     pmic_reg_dump,

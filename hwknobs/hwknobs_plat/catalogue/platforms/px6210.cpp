@@ -164,7 +164,7 @@ constexpr row rows[] = {
     {134, ldo_vsd33_on},
     {135, pmic_oc_log_only},
     {136, pwrkey_reset_disable},
-    {137, pwrkey_reset_time_set},
+    {137, pwrkey_reset_time<14>},
     {138, pmic_reset_warm},
     {140, pmic_wdt_disable},
     {141, pmic_reg_dump},

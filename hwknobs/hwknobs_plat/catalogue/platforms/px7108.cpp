@@ -169,7 +169,7 @@ constexpr row rows[] = {
     {144, ldo_vsd33_on},
     {145, pmic_oc_log_only},
     {146, pwrkey_reset_disable},
-    {147, pwrkey_reset_time_set},
+    {147, pwrkey_reset_time<14>},
     {148, pmic_reset_warm},
     {149, pmic_wdt_disable},
     {150, pmic_reg_dump},
