@@ -30,9 +30,6 @@ inline constexpr knob cpu_hotplug_disable = {
 inline constexpr knob core_ctl_disable = {
     CPU, "core_ctl_disable", "Disable core control, never isolate lightly loaded cores",
     dt(R"(&core_ctl { status = "disabled"; };)")};
-inline constexpr knob little_boot_core_only = {
-    CPU, "little_boot_core_only", "Leave all little cores but the boot core off",
-    dt("&chosen { cpu-start-skip-little; };")};
 inline constexpr knob mid_off = {CPU, "mid_off", "Leave whole mid cluster off", dt("&chosen { cpu-start-skip-mid; };")};
 inline constexpr knob cpufreq_disable = {
     CPU, "cpufreq_disable", "Disable CPU frequency scaling, stay at the boot clock", dt("&chosen { cpufreq-off; };")};
@@ -197,6 +194,12 @@ inline constexpr knob ssbd_disable = {
     dt(R"(&chosen { ssbd-status = "disabled"; };)")};
 inline constexpr knob lse_disable = {
     CPU, "lse_disable", "Use LL/SC loops instead of LSE atomic instructions", dt("&chosen { no-lse; };")};
+inline constexpr knob pauth_disable = {
+    CPU, "pauth_disable", "Hide pointer authentication from kernel and programs", dt("&chosen { no-pauth; };")};
+inline constexpr knob bti_disable = {
+    CPU, "bti_disable", "Hide branch target identification (BTI)", dt("&chosen { no-bti; };")};
+inline constexpr knob sve_disable = {
+    CPU, "sve_disable", "Hide scalable vectors (SVE) from programs", dt("&chosen { no-sve; };")};
 inline constexpr knob pmu_user_access = {
     CPU, "pmu_user_access", "Let user space read the PMU counters", dt("&chosen { pmu-user-access; };")};
 inline constexpr knob amu_frequency_invariance_disable = {

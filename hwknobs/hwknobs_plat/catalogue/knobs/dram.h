@@ -16,11 +16,6 @@ inline constexpr knob dram_max = {
     DRAM, text<"dram_max_{}mbps", Mbps>, text<"Cap DRAM data rate at {} Mbps", Mbps>,
     dt(text<"&dramc { max-data-rate = <{}>; };", Mbps>), choice{"highest DRAM data rate"}};
 
-template <unsigned Mbps>
-inline constexpr knob dram_min = {
-    DRAM, text<"dram_min_{}mbps", Mbps>, text<"Keep DRAM data rate at {} Mbps or higher", Mbps>,
-    dt(text<"&dramc { min-data-rate = <{}>; };", Mbps>), choice{"lowest DRAM data rate"}};
-
 inline constexpr knob dram_dvfs_disable = {
     DRAM, "dram_dvfs_disable", "Disable DRAM DVFS and stay at the boot data rate", dt("&dramc { dvfs-disable; };")};
 inline constexpr knob dram_train_full = {

@@ -10,16 +10,6 @@ inline constexpr knob gpu_fix = {
     GPU, text<"gpu_fix_{}mhz", Mhz>, text<"Fix GPU at {} MHz", Mhz>,
     dt(text<"&gpufreq { fixed-frequency-mhz = <{}>; };", Mhz>), choice{"fixed GPU frequency"}};
 
-template <unsigned Mhz>
-inline constexpr knob gpu_max = {
-    GPU, text<"gpu_max_{}mhz", Mhz>, text<"Cap GPU frequency at {} MHz", Mhz>,
-    dt(text<"&gpufreq { max-frequency-mhz = <{}>; };", Mhz>), choice{"highest GPU frequency"}};
-
-template <unsigned Mhz>
-inline constexpr knob gpu_min = {
-    GPU, text<"gpu_min_{}mhz", Mhz>, text<"Keep GPU frequency at {} MHz or higher", Mhz>,
-    dt(text<"&gpufreq { min-frequency-mhz = <{}>; };", Mhz>), choice{"lowest GPU frequency"}};
-
 inline constexpr knob gpu_dvfs_disable = {
     GPU, "gpu_dvfs_disable", "Disable GPU DVFS and keep the boot frequency", dt("&gpufreq { dvfs-disable; };")};
 inline constexpr knob gpu_dvfs_period_set = {

@@ -25,8 +25,6 @@ inline constexpr knob kasan_mode_set_sync_async = {
 inline constexpr knob kasan_mode_set = {
     KERNEL, "kasan_mode_set", "Set KASAN tag check mode (sync, async or asymm)",
     dt_arg(R"(&chosen { kasan-mode = "%s[sync,async,asymm]"; };)")};
-inline constexpr knob kfence_disable = {
-    KERNEL, "kfence_disable", "Disable KFENCE", dt(R"(&chosen { kfence-status = "disabled"; };)")};
 inline constexpr knob kfence_interval_set = {
     KERNEL, "kfence_interval_set", "Set KFENCE sample interval in ms (0 for off)",
     dt_arg("&chosen { kfence-sample-interval = <0x%x>; };")};
@@ -84,6 +82,11 @@ inline constexpr knob kernel_argument_add = {
 inline constexpr knob memory_limit_set = {
     KERNEL, "memory_limit_set", "Limit usable memory in MB (1024 or more, else boot may fail)",
     dt_arg("&chosen { memory-limit-mb = <0x%x>; };")};
+inline constexpr knob cma_size_set = {
+    KERNEL, "cma_size_set", "Set size of the contiguous memory area (CMA) in MB (16-1024)",
+    dt_arg("&chosen { cma-size-mb = <0x%x>; };")};
+inline constexpr knob zram_disable = {
+    KERNEL, "zram_disable", "Disable compressed swap in RAM (zram)", dt(R"(&chosen { zram-status = "disabled"; };)")};
 inline constexpr knob module_blocklist_set = {
     KERNEL, "module_blocklist_set", "Do not load the named modules, with commas between them",
     dt_arg(R"(&chosen { module-blocklist = "%s "; };)")};
@@ -192,11 +195,37 @@ inline constexpr knob uart_shell_set = {
 inline constexpr knob uart_baud_921600 = {
     KERNEL, "uart_baud_921600", "Set UART baud rate to 921600",
     both("baud", "921600", "&uart0 { current-speed = <921600>; };")};
+inline constexpr knob kgdb_uart_enable = {
+    KERNEL, "kgdb_uart_enable", "Enable kernel debugger on UART (kgdb), entered by SysRq g",
+    dt("&chosen { kgdb-uart; };")};
 inline constexpr knob console_suspend_disable = {
     KERNEL, "console_suspend_disable", "Keep console running during system suspend",
     dt("&chosen { no-console-suspend; };")};
 
+// Buses to peripherals
+inline constexpr knob usb_role_set = {
+    KERNEL, "usb_role_set", "Set USB role (host, peripheral or otg), host leaves no adb on USB",
+    dt_arg(R"(&usb0 { dr_mode = "%s[host,peripheral,otg]"; };)")};
+inline constexpr knob usb_high_speed = {
+    KERNEL, "usb_high_speed", "Limit USB to high speed (480 Mbps)", dt(R"(&usb0 { maximum-speed = "high-speed"; };)")};
+inline constexpr knob pcie_gen_1 = {
+    KERNEL, "pcie_gen_1", "Limit PCIe link to generation 1 (2.5 GT/s)", dt("&pcie0 { max-link-speed = <1>; };")};
+inline constexpr knob pcie_aspm_disable = {
+    KERNEL, "pcie_aspm_disable", "Disable PCIe link power management (ASPM)",
+    dt(R"(&chosen { pcie-aspm-status = "disabled"; };)")};
+inline constexpr knob i2c0_100khz = {
+    KERNEL, "i2c0_100khz", "Run I2C bus 0 at 100 kHz", dt("&i2c0 { clock-frequency = <100000>; };")};
+
+// Modem
+inline constexpr knob modem_off = {
+    KERNEL, "modem_off", "Leave the modem off", both("modem", "off", R"(&modem { status = "disabled"; };)")};
+
 // Storage
+inline constexpr knob verity_mode_set = {
+    KERNEL, "verity_mode_set", "Set dm-verity error mode (enforcing, eio or logging)",
+    env_arg("verity", "%s[enforcing,eio,logging]")};
+inline constexpr knob sd_uhs_disable = {
+    KERNEL, "sd_uhs_disable", "Keep SD card at 3.3 V and 50 MHz (no UHS modes)", dt("&mmc1 { no-1-8-v; };")};
 inline constexpr knob emmc_hs400_disable = {
     KERNEL, "emmc_hs400_disable", "Disable eMMC HS400 mode", dt("&mmc0 { no-mmc-hs400; };")};
 inline constexpr knob emmc_clk_50mhz = {

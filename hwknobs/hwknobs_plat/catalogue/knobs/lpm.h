@@ -64,6 +64,10 @@ inline constexpr knob spm_firmware_skip = {
 inline constexpr knob bus_clock_gating_disable = {
     LPM, "bus_clock_gating_disable", "Disable hardware clock gating of system bus",
     dt("&sysbus { clock-gating-disable; };")};
+inline constexpr knob cam_clocks_on = {
+    LPM, "cam_clocks_on", "Keep camera clocks on", dt("&camsys { clocks-always-on; };")};
+inline constexpr knob audio_clocks_on = {
+    LPM, "audio_clocks_on", "Keep audio clocks on", dt("&audsys { clocks-always-on; };")};
 inline constexpr knob disp_clock_gating_disable = {
     LPM, "disp_clock_gating_disable", "Disable hardware clock gating of display",
     dt("&dispsys { clock-gating-disable; };")};

@@ -18,11 +18,6 @@ inline constexpr knob buck_offset = {
 inline constexpr knob buck_pwm_all = {
     PMIC, "buck_pwm_all", "Force all bucks to PWM mode", dt("&pmic { buck-force-pwm; };")};
 
-template <word Buck>
-inline constexpr knob buck_pwm = {
-    PMIC, text<"buck_{}_pwm", Buck>, text<"Force buck {} to PWM mode", Buck>,
-    dt(text<"&{} { regulator-initial-mode = <1>; };", Buck>)};
-
 inline constexpr knob pmic_lp_mode_disable = {
     PMIC, "pmic_lp_mode_disable", "Keep bucks and LDOs out of low-power mode in suspend",
     dt("&pmic { low-power-mode-disable; };")};

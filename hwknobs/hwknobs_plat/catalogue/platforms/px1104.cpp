@@ -24,6 +24,7 @@ constexpr knob rows[] = {
     hung_task_panic_enable,
     softlockup_panic_enable,
     watchdog_disable,
+    watchdog_timeout_set,
     console_level_set,
     uart_console_disable,
     uart_console_enable,
@@ -32,6 +33,8 @@ constexpr knob rows[] = {
     uart_shell_set,
     uart_baud_921600,
     initcall_debug_enable,
+    kernel_argument_add,
+    memory_limit_set,
     clk_ignore_unused,
     regulator_ignore_unused,
     panic_timeout_set,
@@ -40,14 +43,14 @@ constexpr knob rows[] = {
     ramdump_to_usb,
     iommu_fault_panic_enable,
     emmc_rpm_disable,
+    usb_role_set,
+    modem_off,
 
     // CPU
     boot_core_only,
-    cpu3_off,
     cpu_hotplug_disable,
     cpufreq_disable,
     cpu_fix<1300>,
-    cpu_fix<442>,
     cpu_cap_set<442, 1300>,
     boot_opp_max,
     cpuidle_disable,
@@ -73,7 +76,6 @@ constexpr knob rows[] = {
 
     // EMI: memory controller and buses
     emi_bwmon_enable,
-    emi_bwmon_window_set,
     emi_mpu_panic,
     emi_mpu_log,
     bus_hang_enable,
@@ -99,9 +101,8 @@ constexpr knob rows[] = {
 
     // GPU
     gpu_fix<450>,
-    gpu_fix<299>,
-    gpu_max<390>,
     gpu_dvfs_disable,
+    gpu_throttle_disable,
     gpu_voltage_offset,
     gpu_disable,
     gpu_policy_always_on,
@@ -118,7 +119,6 @@ constexpr knob rows[] = {
     esd_check_disable,
     dsi_clk_continuous,
     dsi_ssc_disable,
-    bl_boot_level_set,
     bl_fixed_50,
     cabc_disable,
     disp_idle_disable,

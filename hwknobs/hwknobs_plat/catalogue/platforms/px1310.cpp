@@ -26,6 +26,7 @@ constexpr knob rows[] = {
     hung_task_panic_enable,
     softlockup_panic_enable,
     watchdog_disable,
+    watchdog_timeout_set,
     watchdog_percpu_kick_enable,
     console_level_set,
     uart_console_disable,
@@ -36,6 +37,8 @@ constexpr knob rows[] = {
     uart_shell_set,
     uart_baud_921600,
     initcall_debug_enable,
+    kernel_argument_add,
+    memory_limit_set,
     clk_ignore_unused,
     regulator_ignore_unused,
     panic_timeout_set,
@@ -50,6 +53,8 @@ constexpr knob rows[] = {
     irq_handler_warn_10ms,
     emmc_hs400_disable,
     emmc_rpm_disable,
+    usb_role_set,
+    modem_off,
 
     // CPU
     boot_core_only,
@@ -59,7 +64,6 @@ constexpr knob rows[] = {
     cpufreq_disable,
     cpu_fix_max,
     cpu_fix_min,
-    cluster_fix<"little", 1391>,
     cluster_fix<"big", 2002>,
     big_cap_set<754, 2002>,
     hmp_disable,
@@ -109,7 +113,6 @@ constexpr knob rows[] = {
     vcore_req_log,
 
     // PMIC and charging
-    buck_plus_25mv<"vproc2">,
     buck_plus_25mv<"vcore">,
     buck_plus_25mv<"vdram">,
     buck_offset<"vcore">,
@@ -128,9 +131,8 @@ constexpr knob rows[] = {
 
     // GPU
     gpu_fix<650>,
-    gpu_fix<253>,
-    gpu_max<546>,
     gpu_dvfs_disable,
+    gpu_throttle_disable,
     gpu_voltage_offset,
     gpu_disable,
     gpu_policy_always_on,
@@ -153,7 +155,6 @@ constexpr knob rows[] = {
     dsi_lane_rate_set<1500>,
     dsi_clk_continuous,
     dsi_ssc_disable,
-    bl_boot_level_set,
     bl_fixed_50,
     bl_pwm_20khz,
     cabc_disable,

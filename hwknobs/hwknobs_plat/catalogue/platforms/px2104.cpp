@@ -25,6 +25,7 @@ constexpr knob rows[] = {
     hung_task_panic_enable,
     softlockup_panic_enable,
     watchdog_disable,
+    watchdog_timeout_set,
     console_level_set,
     uart_console_disable,
     uart_console_enable,
@@ -33,6 +34,8 @@ constexpr knob rows[] = {
     uart_shell_set,
     uart_baud_921600,
     initcall_debug_enable,
+    kernel_argument_add,
+    memory_limit_set,
     clk_ignore_unused,
     regulator_ignore_unused,
     panic_timeout_set,
@@ -43,6 +46,8 @@ constexpr knob rows[] = {
     iommu_fault_panic_enable,
     emmc_hs400_disable,
     emmc_rpm_disable,
+    usb_role_set,
+    modem_off,
 
     // CPU
     boot_core_only,
@@ -108,9 +113,8 @@ constexpr knob rows[] = {
 
     // GPU
     gpu_fix<560>,
-    gpu_fix<350>,
-    gpu_max<450>,
     gpu_dvfs_disable,
+    gpu_throttle_disable,
     gpu_voltage_offset,
     gpu_disable,
     gpu_policy_always_on,
@@ -129,7 +133,6 @@ constexpr knob rows[] = {
     esd_check_disable,
     dsi_clk_continuous,
     dsi_ssc_disable,
-    bl_boot_level_set,
     bl_fixed_50,
     bl_pwm_20khz,
     cabc_disable,

@@ -27,6 +27,7 @@ constexpr knob rows[] = {
     hung_task_panic_enable,
     softlockup_panic_enable,
     watchdog_disable,
+    watchdog_timeout_set,
     watchdog_percpu_kick_enable,
     console_level_set,
     uart_console_disable,
@@ -37,6 +38,8 @@ constexpr knob rows[] = {
     uart_shell_set,
     uart_baud_921600,
     initcall_debug_enable,
+    kernel_argument_add,
+    memory_limit_set,
     clk_ignore_unused,
     regulator_ignore_unused,
     panic_timeout_set,
@@ -49,6 +52,8 @@ constexpr knob rows[] = {
     irq_handler_warn_10ms,
     emmc_hs400_disable,
     emmc_rpm_disable,
+    usb_role_set,
+    modem_off,
 
     // CPU
     boot_core_only,
@@ -58,7 +63,6 @@ constexpr knob rows[] = {
     cpufreq_disable,
     cpu_fix_max,
     cpu_fix_min,
-    cluster_fix<"little", 1508>,
     cluster_fix<"big", 2106>,
     big_cap_set<845, 2106>,
     hmp_disable,
@@ -123,9 +127,8 @@ constexpr knob rows[] = {
 
     // GPU
     gpu_fix<900>,
-    gpu_fix<270>,
-    gpu_max<780>,
     gpu_dvfs_disable,
+    gpu_throttle_disable,
     gpu_voltage_offset,
     gpu_disable,
     gpu_policy_always_on,
@@ -149,7 +152,6 @@ constexpr knob rows[] = {
     dsi_lane_rate_set<1500>,
     dsi_clk_continuous,
     dsi_ssc_disable,
-    bl_boot_level_set,
     bl_fixed_50,
     bl_pwm_20khz,
     cabc_disable,

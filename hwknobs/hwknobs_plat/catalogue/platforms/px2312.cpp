@@ -29,6 +29,7 @@ constexpr knob rows[] = {
     hung_task_panic_enable,
     softlockup_panic_enable,
     watchdog_disable,
+    watchdog_timeout_set,
     watchdog_percpu_kick_enable,
     console_level_set,
     uart_console_disable,
@@ -39,6 +40,8 @@ constexpr knob rows[] = {
     uart_shell_set,
     uart_baud_921600,
     initcall_debug_enable,
+    kernel_argument_add,
+    memory_limit_set,
     clk_ignore_unused,
     regulator_ignore_unused,
     panic_timeout_set,
@@ -54,6 +57,8 @@ constexpr knob rows[] = {
     irq_handler_warn_10ms,
     ufs_gear_1,
     ufs_hibern8_disable,
+    usb_role_set,
+    modem_off,
 
     // CPU
     boot_core_only,
@@ -64,7 +69,6 @@ constexpr knob rows[] = {
     cpufreq_disable,
     cpu_fix_max,
     cpu_fix_min,
-    cluster_fix<"little", 1898>,
     cluster_fix<"big", 2548>,
     big_cap_set<1131, 2548>,
     boot_opp_max,
@@ -87,7 +91,6 @@ constexpr knob rows[] = {
     // DRAM
     dram_fix<3733>,
     dram_fix<1600>,
-    dram_min<2400>,
     dram_dvfs_disable,
     dram_train_full,
     dram_train_renew,
@@ -119,12 +122,10 @@ constexpr knob rows[] = {
     vcore_req_log,
 
     // PMIC and charging
-    buck_plus_25mv<"vproc2">,
     buck_plus_25mv<"vcore">,
     buck_plus_25mv<"vdram1">,
     buck_offset<"vcore">,
     buck_pwm_all,
-    buck_pwm<"vproc2">,
     pmic_lp_mode_disable,
     ldo_vsd33_on,
     pmic_oc_log_only,
@@ -141,9 +142,8 @@ constexpr knob rows[] = {
 
     // GPU
     gpu_fix<850>,
-    gpu_fix<280>,
-    gpu_max<750>,
     gpu_dvfs_disable,
+    gpu_throttle_disable,
     gpu_voltage_offset,
     gpu_disable,
     gpu_policy_always_on,
@@ -170,7 +170,6 @@ constexpr knob rows[] = {
     dsi_ssc_disable,
     dsi_ulps_disable,
     dsi1_disable,
-    bl_boot_level_set,
     bl_fixed_50,
     bl_pwm_20khz,
     cabc_disable,

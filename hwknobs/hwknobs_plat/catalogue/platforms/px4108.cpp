@@ -32,6 +32,7 @@ constexpr knob rows[] = {
     hung_task_panic_enable,
     softlockup_panic_enable,
     watchdog_disable,
+    watchdog_timeout_set,
     console_level_set,
     uart_console_disable,
     uart_console_enable,
@@ -41,6 +42,8 @@ constexpr knob rows[] = {
     uart_baud_921600,
     dyndbg_set,
     initcall_debug_enable,
+    kernel_argument_add,
+    memory_limit_set,
     clk_ignore_unused,
     regulator_ignore_unused,
     panic_timeout_set,
@@ -53,18 +56,19 @@ constexpr knob rows[] = {
     iommu_fault_panic_enable,
     emmc_hs400_disable,
     emmc_clk_50mhz,
+    usb_role_set,
+    modem_off,
     emmc_rpm_disable,
+    verity_mode_set,
 
     // CPU
     boot_core_only,
     cpu_start_mask_set<"0xff">,
-    big_core_off<7, "A53">,
     big_off,
     core_ctl_disable,
     cpufreq_disable,
     cpu_fix_max,
     cpu_fix_min,
-    cluster_fix<"little", 1700>,
     big_cap_set<825, 2000>,
     iowait_boost_disable,
     eas_disable,
@@ -86,7 +90,6 @@ constexpr knob rows[] = {
     // DRAM
     dram_fix<3200>,
     dram_fix<1600>,
-    dram_max<2400>,
     dram_dvfs_disable,
     dram_train_full,
     dram_train_renew,
@@ -120,7 +123,6 @@ constexpr knob rows[] = {
     vcore_timeout_panic,
 
     // PMIC and charging
-    buck_plus_25mv<"vproc2">,
     buck_plus_25mv<"vcore">,
     buck_plus_25mv<"vdram">,
     buck_offset<"vcore">,
@@ -140,8 +142,8 @@ constexpr knob rows[] = {
 
     // GPU
     gpu_fix<680>,
-    gpu_fix<300>,
     gpu_dvfs_disable,
+    gpu_throttle_disable,
     gpu_voltage_offset,
     gpu_disable,
     gpu_policy_always_on,

@@ -33,6 +33,7 @@ constexpr knob rows[] = {
     softlockup_panic_enable,
     rcu_stall_panic_enable,
     watchdog_disable,
+    watchdog_timeout_set,
     watchdog_percpu_kick_enable,
     console_level_set,
     uart_console_disable,
@@ -44,6 +45,8 @@ constexpr knob rows[] = {
     uart_baud_921600,
     dyndbg_set,
     initcall_debug_enable,
+    kernel_argument_add,
+    memory_limit_set,
     clk_ignore_unused,
     regulator_ignore_unused,
     panic_timeout_set,
@@ -57,18 +60,19 @@ constexpr knob rows[] = {
     irq_handler_warn_10ms,
     emmc_hs400_disable,
     emmc_clk_50mhz,
+    usb_role_set,
+    modem_off,
     emmc_rpm_disable,
+    verity_mode_set,
 
     // CPU
     boot_core_only,
     cpu_start_mask_set<"0xff">,
-    big_core_off<7, "A53">,
     big_off,
     core_ctl_disable,
     cpufreq_disable,
     cpu_fix_max,
     cpu_fix_min,
-    cluster_fix<"little", 1800>,
     cluster_fix<"big", 2300>,
     big_cap_set<950, 2300>,
     iowait_boost_disable,
@@ -93,7 +97,6 @@ constexpr knob rows[] = {
     // DRAM
     dram_fix<3200>,
     dram_fix<1600>,
-    dram_max<2400>,
     dram_dvfs_disable,
     dram_train_full,
     dram_train_renew,
@@ -131,7 +134,6 @@ constexpr knob rows[] = {
     vcore_timeout_panic,
 
     // PMIC and charging
-    buck_plus_25mv<"vproc2">,
     buck_plus_25mv<"vcore">,
     buck_plus_25mv<"vdram">,
     buck_offset<"vcore">,
@@ -152,8 +154,8 @@ constexpr knob rows[] = {
 
     // GPU
     gpu_fix<750>,
-    gpu_fix<320>,
     gpu_dvfs_disable,
+    gpu_throttle_disable,
     gpu_voltage_offset,
     gpu_disable,
     gpu_policy_always_on,
@@ -179,7 +181,6 @@ constexpr knob rows[] = {
     dsi_lane_rate_set<2500>,
     dsi_clk_continuous,
     dsi_ssc_disable,
-    bl_boot_level_set,
     bl_fixed_50,
     cabc_disable,
     disp_idle_disable,

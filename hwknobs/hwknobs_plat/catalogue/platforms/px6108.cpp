@@ -34,6 +34,7 @@ constexpr row rows[] = {
     {14, softlockup_panic_enable},
     {15, rcu_stall_panic_enable},
     {16, watchdog_disable},
+    {84, watchdog_timeout_set},
     {17, watchdog_percpu_kick_enable},
     {18, console_level_set},
     {19, uart_console_disable},
@@ -64,17 +65,19 @@ constexpr row rows[] = {
     {42, pseudo_nmi_enable},
     {43, emmc_hs400_disable},
     {44, emmc_clk_50mhz},
+    {52, usb_role_set},
+    {145, modem_off},
     {214, emmc_rpm_disable},
+    {83, verity_mode_set},
+    {80, sd_uhs_disable},
 
     // CPU
     {45, boot_core_only},
     {46, cpu_start_mask_set<"0xff">},
-    {47, big_core_off<7, "A76">},
     {48, big_off},
     {49, cpufreq_disable},
     {50, cpu_fix_max},
     {51, cpu_fix_min},
-    {52, cluster_fix<"little", 2000>},
     {53, cluster_fix<"big", 2200>},
     {54, big_cap_set<950, 2200>},
     {56, boot_opp_max},
@@ -100,13 +103,11 @@ constexpr row rows[] = {
     {77, cpu_throttle_disable},
     {78, cpu_trip_set},
     {79, mitigations_off},
-    {80, kpti_disable},
 
     // DRAM
     {81, dram_fix<4266>},
     {82, dram_fix<1600>},
-    {83, dram_max<3200>},
-    {84, dram_min<2400>},
+    {120, dram_max<3200>},
     {85, dram_dvfs_disable},
     {87, dram_train_full},
     {88, dram_train_renew},
@@ -148,13 +149,11 @@ constexpr row rows[] = {
     {119, vcore_timeout_panic},
 
     // PMIC and charging
-    {120, buck_plus_25mv<"vproc2">},
     {121, buck_plus_25mv<"vcore">},
     {122, buck_plus_25mv<"vdram">},
     {123, buck_offset<"vcore">},
     {124, buck_offset<"vdram">},
     {125, buck_pwm_all},
-    {126, buck_pwm<"vproc2">},
     {127, pmic_lp_mode_disable},
     {128, ldo_vsd33_on},
     {129, pmic_oc_log_only},
@@ -173,7 +172,7 @@ constexpr row rows[] = {
 
     // GPU
     {143, gpu_fix<880>},
-    {145, gpu_fix<320>},
+    {47, gpu_fix<320>},
     {147, gpu_dvfs_disable},
     {5, gpu_throttle_disable},
     {148, gpu_voltage_offset},
@@ -245,6 +244,7 @@ constexpr row rows[] = {
     {211, sleep_count_log},
     {212, spm_log_enable},
     {213, bus_clock_gating_disable},
+    {126, cam_clocks_on},
 
     // HYP: hypervisor and secure world
     {216, hyp_disable},

@@ -34,6 +34,7 @@ constexpr row rows[] = {
     {14, softlockup_panic_enable},
     {15, rcu_stall_panic_enable},
     {17, watchdog_disable},
+    {86, watchdog_timeout_set},
     {18, watchdog_percpu_kick_enable},
     {19, console_level_set},
     {20, uart_console_disable},
@@ -66,17 +67,18 @@ constexpr row rows[] = {
     {43, pseudo_nmi_enable},
     {44, ufs_gear_1},
     {45, ufs_hibern8_disable},
+    {85, verity_mode_set},
+    {82, sd_uhs_disable},
+    {54, usb_role_set},
+    {155, modem_off},
 
     // CPU
     {46, boot_core_only},
     {47, cpu_start_mask_set<"0xff">},
-    {48, big_core_off<7, "A78">},
-    {49, little_boot_core_only},
     {50, big_off},
     {51, cpufreq_disable},
     {52, cpu_fix_max},
     {53, cpu_fix_min},
-    {54, cluster_fix<"little", 2000>},
     {55, cluster_fix<"big", 2400>},
     {56, big_cap_set<725, 2400>},
     {57, boot_opp_max},
@@ -103,13 +105,11 @@ constexpr row rows[] = {
     {79, cpu_throttle_disable},
     {80, cpu_trip_set},
     {81, mitigations_off},
-    {82, kpti_disable},
 
     // DRAM
     {83, dram_fix<5500>},
     {84, dram_fix<1600>},
-    {85, dram_max<4266>},
-    {86, dram_min<3200>},
+    {48, dram_max<4266>},
     {87, dram_dvfs_disable},
     {88, dram_train_full},
     {89, dram_train_renew},
@@ -153,13 +153,11 @@ constexpr row rows[] = {
     {124, vcore_timeout_panic},
 
     // PMIC and charging
-    {125, buck_plus_25mv<"vproc2">},
     {126, buck_plus_25mv<"vcore">},
     {128, buck_plus_25mv<"vdram1">},
     {129, buck_offset<"vcore">},
     {130, buck_offset<"vdram1">},
     {131, buck_pwm_all},
-    {132, buck_pwm<"vproc2">},
     {133, pmic_lp_mode_disable},
     {134, ldo_vsd33_on},
     {135, pmic_oc_log_only},
@@ -179,7 +177,7 @@ constexpr row rows[] = {
 
     // GPU
     {153, gpu_fix<900>},
-    {155, gpu_fix<350>},
+    {49, gpu_fix<350>},
     {157, gpu_dvfs_disable},
     {5, gpu_throttle_disable},
     {158, gpu_voltage_offset},
@@ -257,6 +255,8 @@ constexpr row rows[] = {
     {230, sleep_count_log},
     {231, spm_log_enable},
     {232, bus_clock_gating_disable},
+    {125, audio_clocks_on},
+    {132, cam_clocks_on},
 
     // HYP: hypervisor and secure world
     {234, hyp_disable},

@@ -11,6 +11,7 @@
 //          vufs18, vefuse, vbatif28, vrf12, vtcxo22
 // Storage  UFS 3.1
 // Modem    5G
+// Wi-Fi    PCIe 3.0
 // clang-format off
 #include "hwknobs_plat/catalogue/knobs.h"
 #include "hwknobs_plat/catalogue/table.h"
@@ -44,12 +45,15 @@ constexpr row rows[] = {
     {25, log_buf_8m},
     {239, console_suspend_disable},
     {265, earlycon_enable},
+    {56, kgdb_uart_enable},
     {266, uart_shell_set},
     {267, uart_baud_921600},
     {26, dyndbg_set},
     {27, initcall_debug_enable},
     {258, kernel_argument_add},
     {260, memory_limit_set},
+    {57, zram_disable},
+    {212, cma_size_set},
     {261, module_blocklist_set},
     {28, fw_devlink_set},
     {29, clk_ignore_unused},
@@ -72,18 +76,20 @@ constexpr row rows[] = {
     {48, pseudo_nmi_enable},
     {49, ufs_gear_1},
     {51, ufs_hibern8_disable},
+    {96, verity_mode_set},
     {52, ufs_clock_gating_disable},
+    {62, usb_role_set},
+    {58, usb_high_speed},
+    {101, pcie_gen_1},
+    {100, pcie_aspm_disable},
+    {172, modem_off},
 
     // CPU
     {53, boot_core_only},
     {55, cpu_start_mask_set<"0xff">},
-    {56, big_core_off<7, "A78">},
-    {57, little_boot_core_only},
-    {58, mid_off},
     {59, cpufreq_disable},
     {60, cpu_fix_max},
     {61, cpu_fix_min},
-    {62, cluster_fix<"little", 2000>},
     {63, cluster_fix<"big", 3000>},
     {64, big_cap_set<902, 3000>},
     {65, big_turbo_disable},
@@ -114,14 +120,12 @@ constexpr row rows[] = {
     {93, cpu_trip_set},
     {94, erratum_fw_skip},
     {95, mitigations_off},
-    {96, kpti_disable},
     {97, lse_disable},
 
     // DRAM
     {98, dram_fix<4266>},
     {99, dram_fix<1600>},
-    {100, dram_max<3733>},
-    {101, dram_min<3200>},
+    {150, dram_max<3733>},
     {102, dram_dvfs_disable},
     {103, dram_train_full},
     {104, dram_train_renew},
@@ -169,14 +173,11 @@ constexpr row rows[] = {
     {142, vcore_timeout_panic},
 
     // PMIC and charging
-    {143, buck_plus_25mv<"vproc3">},
     {144, buck_plus_25mv<"vcore">},
     {145, buck_plus_25mv<"vdram1">},
     {146, buck_offset<"vcore">},
     {148, buck_offset<"vdram1">},
     {149, buck_pwm_all},
-    {150, buck_pwm<"vproc3">},
-    {286, buck_pwm<"vcore">},
     {151, pmic_lp_mode_disable},
     {152, pmic_oc_log_only},
     {153, pmic_uvlo_2600mv},
@@ -198,7 +199,7 @@ constexpr row rows[] = {
 
     // GPU
     {170, gpu_fix<890>},
-    {172, gpu_fix<370>},
+    {286, gpu_fix<370>},
     {175, gpu_dvfs_disable},
     {6, gpu_throttle_disable},
     {176, gpu_voltage_offset},
@@ -231,10 +232,10 @@ constexpr row rows[] = {
     {206, dsi_lane_rate_set<2500>},
     {207, dsi_clk_continuous},
     {208, dsi_ssc_disable},
+    {143, bl_boot_level_set},
     {209, dsi1_disable},
     {210, dp_disable},
     {211, dp_rate_hbr},
-    {212, bl_boot_level_set},
     {213, bl_fixed_50},
     {214, disp_idle_disable},
     {215, disp_partial_disable},

@@ -11,6 +11,7 @@
 //          vufs18, vefuse, vbatif28, vrf12, vtcxo22
 // Storage  UFS 3.1
 // Modem    5G
+// Wi-Fi    PCIe 3.0
 // clang-format off
 #include "hwknobs_plat/catalogue/knobs.h"
 #include "hwknobs_plat/catalogue/table.h"
@@ -27,7 +28,6 @@ constexpr row rows[] = {
     {4, kmemleak_enable},
     {5, kasan_hw_tags_enable},
     {6, kasan_mode_set_sync_async},
-    {7, kfence_disable},
     {8, kfence_interval_set},
     {9, slub_debug_enable},
     {10, page_owner_enable},
@@ -41,6 +41,7 @@ constexpr row rows[] = {
     {18, softlockup_panic_enable},
     {19, rcu_stall_panic_enable},
     {20, watchdog_disable},
+    {165, watchdog_timeout_set},
     {21, watchdog_percpu_kick_enable},
     {22, console_level_set},
     {23, uart_console_disable},
@@ -53,6 +54,8 @@ constexpr row rows[] = {
     {27, hash_pointers_disable},
     {28, dyndbg_set},
     {29, initcall_debug_enable},
+    {187, kernel_argument_add},
+    {111, memory_limit_set},
     {30, fw_devlink_set},
     {31, clk_ignore_unused},
     {32, regulator_ignore_unused},
@@ -76,18 +79,19 @@ constexpr row rows[] = {
     {55, pseudo_nmi_enable},
     {56, ufs_gear_1},
     {57, ufs_hibern8_disable},
+    {63, verity_mode_set},
     {58, ufs_clock_gating_disable},
+    {110, usb_role_set},
+    {62, pcie_gen_1},
+    {227, pcie_aspm_disable},
+    {7, modem_off},
 
     // CPU
     {60, boot_core_only},
     {61, cpu_start_mask_set<"0xff">},
-    {62, big_core_off<7, "X2">},
-    {63, little_boot_core_only},
-    {64, mid_off},
     {65, cpufreq_disable},
     {66, cpu_fix_max},
     {67, cpu_fix_min},
-    {68, cluster_fix<"little", 1800>},
     {69, cluster_fix<"big", 3050>},
     {70, big_cap_set<930, 3050>},
     {71, big_turbo_disable},
@@ -119,9 +123,10 @@ constexpr row rows[] = {
     {99, droop_disable},
     {100, cpu_throttle_disable},
     {101, cpu_trip_set},
-    {102, firmware_erratum_skip<"A710 and X2", 2058056, "prefetch mode">},
     {103, erratum_fw_skip},
     {104, mitigations_off},
+    {159, bti_disable},
+    {315, pauth_disable},
     {105, el0_32bit_mismatch_allow},
     {106, lse_disable},
     {320, amu_frequency_invariance_disable},
@@ -129,8 +134,7 @@ constexpr row rows[] = {
     // DRAM
     {108, dram_fix<7500>},
     {109, dram_fix<1600>},
-    {110, dram_max<6400>},
-    {111, dram_min<4266>},
+    {102, dram_max<6400>},
     {112, dram_dvfs_disable},
     {113, dram_train_full},
     {114, dram_train_renew},
@@ -182,14 +186,11 @@ constexpr row rows[] = {
     {158, vcore_timeout_panic},
 
     // PMIC and charging
-    {159, buck_plus_25mv<"vproc3">},
     {160, buck_plus_25mv<"vcore">},
     {161, buck_plus_25mv<"vdram1">},
     {162, buck_offset<"vcore">},
     {163, buck_offset<"vdram1">},
     {164, buck_pwm_all},
-    {165, buck_pwm<"vproc3">},
-    {315, buck_pwm<"vcore">},
     {166, pmic_lp_mode_disable},
     {167, pmic_oc_log_only},
     {168, pmic_uvlo_2600mv},
@@ -215,8 +216,9 @@ constexpr row rows[] = {
 
     // GPU
     {185, gpu_fix<850>},
-    {187, gpu_fix<350>},
+    {64, gpu_fix<350>},
     {190, gpu_dvfs_disable},
+    {68, gpu_throttle_disable},
     {191, gpu_dvfs_period_set},
     {192, gpu_voltage_offset},
     {193, gpu_speed_bin_ignore},
@@ -255,7 +257,6 @@ constexpr row rows[] = {
     {224, dsi1_disable},
     {225, dp_disable},
     {226, dp_rate_hbr},
-    {227, bl_boot_level_set},
     {229, bl_fixed_50},
     {230, disp_idle_disable},
     {231, disp_partial_disable},

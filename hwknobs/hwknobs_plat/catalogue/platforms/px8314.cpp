@@ -11,6 +11,7 @@
 //          vufs18, vefuse, vbatif28, vrf12, vtcxo22
 // Storage  UFS 4.0
 // Modem    5G
+// Wi-Fi    PCIe 3.0
 // clang-format off
 #include "hwknobs_plat/catalogue/knobs.h"
 #include "hwknobs_plat/catalogue/table.h"
@@ -27,7 +28,6 @@ constexpr row rows[] = {
     {5, kmemleak_enable},
     {6, kasan_hw_tags_enable},
     {7, kasan_mode_set},
-    {8, kfence_disable},
     {9, kfence_interval_set},
     {10, slub_debug_enable},
     {11, page_owner_enable},
@@ -42,6 +42,7 @@ constexpr row rows[] = {
     {21, rcu_stall_panic_enable},
     {22, rcu_exp_stall_timeout_200ms},
     {23, watchdog_disable},
+    {8, watchdog_timeout_set},
     {24, watchdog_percpu_kick_enable},
     {25, console_level_set},
     {26, uart_console_disable},
@@ -54,6 +55,8 @@ constexpr row rows[] = {
     {30, hash_pointers_disable},
     {31, dyndbg_set},
     {32, initcall_debug_enable},
+    {71, kernel_argument_add},
+    {200, memory_limit_set},
     {33, fw_devlink_set},
     {34, clk_ignore_unused},
     {35, regulator_ignore_unused},
@@ -78,17 +81,18 @@ constexpr row rows[] = {
     {59, ufs_hibern8_disable},
     {60, ufs_clock_gating_disable},
     {61, ufs_write_booster_disable},
+    {65, verity_mode_set},
+    {116, usb_role_set},
+    {64, pcie_gen_1},
+    {249, pcie_aspm_disable},
+    {115, modem_off},
 
     // CPU
     {62, boot_core_only},
     {63, cpu_start_mask_set<"0xff">},
-    {64, big_core_off<7, "X4">},
-    {65, little_boot_core_only},
-    {66, mid_off},
     {67, cpufreq_disable},
     {69, cpu_fix_max},
     {70, cpu_fix_min},
-    {71, cluster_fix<"little", 2000>},
     {72, cluster_fix<"big", 3250>},
     {73, big_cap_set<1020, 3250>},
     {74, big_turbo_disable},
@@ -120,10 +124,11 @@ constexpr row rows[] = {
     {101, droop_disable},
     {102, cpu_throttle_disable},
     {104, cpu_trip_set},
-    {105, erratum_skip<"A520", 2966298, "unprivileged load">},
-    {106, erratum_skip<"X4", 3194386, "SSBS barrier">},
     {107, erratum_fw_skip},
     {108, mitigations_off},
+    {168, bti_disable},
+    {338, sve_disable},
+    {176, pauth_disable},
     {109, ssbd_disable},
     {111, lse_disable},
     {112, pmu_user_access},
@@ -132,8 +137,7 @@ constexpr row rows[] = {
     // DRAM
     {113, dram_fix<9600>},
     {114, dram_fix<1600>},
-    {115, dram_max<8533>},
-    {116, dram_min<6400>},
+    {105, dram_max<8533>},
     {117, dram_dvfs_disable},
     {118, dram_train_full},
     {119, dram_train_renew},
@@ -187,14 +191,11 @@ constexpr row rows[] = {
     {167, vcore_timeout_panic},
 
     // PMIC and charging
-    {168, buck_plus_25mv<"vproc3">},
     {169, buck_plus_25mv<"vcore">},
     {171, buck_plus_25mv<"vdram1">},
     {173, buck_offset<"vcore">},
     {174, buck_offset<"vdram1">},
     {175, buck_pwm_all},
-    {176, buck_pwm<"vproc3">},
-    {338, buck_pwm<"vcore">},
     {177, pmic_lp_mode_disable},
     {178, pmic_oc_log_only},
     {343, buck_vgpu11_oc_error_set},
@@ -221,7 +222,7 @@ constexpr row rows[] = {
 
     // GPU
     {197, gpu_fix<1300>},
-    {200, gpu_fix<530>},
+    {106, gpu_fix<530>},
     {203, gpu_dvfs_disable},
     {205, gpu_dvfs_period_set},
     {206, gpu_throttle_disable},
@@ -261,10 +262,10 @@ constexpr row rows[] = {
     {241, dsi_clk_continuous},
     {242, dsi_ssc_disable},
     {243, dsi_ulps_disable},
+    {66, bl_boot_level_set},
     {245, dsi1_disable},
     {246, dp_disable},
     {247, dp_rate_hbr},
-    {249, bl_boot_level_set},
     {250, bl_fixed_50},
     {251, disp_idle_disable},
     {252, disp_partial_disable},
