@@ -50,6 +50,7 @@ ERROR: hwknobs_sec_boot_status: Can't open atag,lk-sec entry" hwknobs auth-statu
 @test "xmlconfig-show: the exact document" {
     hwknobs xmlconfig-show lcm_settings a3 perf_stat_events scycles | no_id | diff "$data/exported.xml" -
     expect 1 "ERROR: No item" hwknobs xmlconfig-show
+    [[ $(hwknobs --plat=px7314 xmlconfig-show kaslr_disable) == *'platform="px7314"'* ]]
     run -0 device run sh -c 'hwknobs --verbose xmlconfig-show kaslr_disable >log; cat log'
     [[ $output == DEBUG*"<?xml"*"</hwknobs>" ]]
 }

@@ -62,8 +62,8 @@ Skip delete option" hwknobs setname -d kaslr_disable
 
 @test "another platform than the device's" {
     hwknobs --plat=px7314 setname lcm_settings a2
-    run -0 hwknobs setname -m kmemleak_disable # the setting stays one of its platform
-    [[ ${lines[0]} == "Config set (platform px7314), #item=2" && $(bytes 0x220 7) == "$(hex 'px7314\0')" ]]
+    run -0 hwknobs setname -m kmemleak_disable lcm_settings a3 # the setting stays one of its platform, as its items do
+    [[ ${lines[0]} == "Config set (platform px7314), #item=3" && $(bytes 0x220 7) == "$(hex 'px7314\0')" ]]
     [[ ${lines[1]} == *" lcm_settings("*")[arg=2]"* && ${lines[2]} == *" kmemleak_disable($(id_of kmemleak_disable))"* ]]
     run -0 hwknobs --plat=px0000 set 1
     [[ ${lines[0]} == "Config set (platform px0000), #item=1" && $(bytes 0x220 7) == "$(hex 'px0000\0')" ]]
@@ -134,7 +134,7 @@ Skip delete option" hwknobs setname -d kaslr_disable
     hwknobs set 1 7
     device reboot
     [[ $(fdtget "$DEV/merged.dtb" /SUSPEND status) == test-overide-1 && $(sort "$DEV/plenv" | xargs) == "AA=BB test_level=high" ]]
-    run -0 bash -c "'$device_script' run '$DEV' hwknobs status --partition | head -2000 | tail -1"
+    run -0 bash -c "'$device_script' run '$DEV' hwknobs status --partition | sed -n '2000{p;q}'"
     [[ $output == "warn: unknown option id, skip" ]]
     expect 1 $'Error in file hwknobs/hwknobs_img:919\n\tfunction: void config_item::format_validate()
 \t> check_string == NULL' hwknobs set 4 a1
