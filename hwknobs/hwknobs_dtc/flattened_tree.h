@@ -6,8 +6,10 @@
 #include <cstdint>
 #include <span>
 
+/// The first word of every flattened tree, as the Devicetree Specification has it.
 inline constexpr std::array<unsigned char, 4> flattened_tree_magic = {0xD0, 0x0D, 0xFE, 0xED};
 
+/// Whether the blob begins like a flattened tree.
 inline bool is_flattened_tree(std::span<const char> blob) {
     if (blob.size() < flattened_tree_magic.size()) return false;
     return std::ranges::equal(blob.first(flattened_tree_magic.size()), flattened_tree_magic,
