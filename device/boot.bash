@@ -22,20 +22,19 @@ word_at() {
     REPLY=$((part[$1] | part[$1 + 1] << 8 | part[$1 + 2] << 16 | part[$1 + 3] << 24))
 }
 
-# REPLY: the NUL-padded text in a field (offset, length) of the partition.
+# REPLY: the NUL-padded text in a field (offset, length) of the partition. Fails when it does not end within the field.
 text_at() {
     local i text=''
     for ((i = $1; i < $1 + $2 && part[i]; i++)); do
         printf -v text '%s\\x%x' "$text" "${part[i]}"
     done
     printf -v REPLY '%b' "$text"
+    ((i < $1 + $2))
 }
 
 is_section() {
     word_at "$1"
-    ((REPLY == section_magic)) || return 1
-    text_at $(($1 + 8)) 32
-    [[ $REPLY == "$2" ]]
+    ((REPLY == section_magic)) && text_at $(($1 + 8)) 32 && [[ $REPLY == "$2" ]]
 }
 
 plenv_is_sound() {
@@ -50,6 +49,18 @@ plenv_is_sound() {
     for ((i = plenv_at + 8; i < plenv_at + 1012; i++)); do sum=$((sum + part[i])); done
     word_at $((plenv_at + 1020))
     ((sum == REPLY))
+}
+
+# The section of an overlay of that size, also where there is none: zeros are what a power cut leaves behind the plenv block.
+# The blob has to be a tree of just that size.
+overlay_is_sound() {
+    local i total='' size=$1
+    is_section "$overlay_section_at" hwknobs-dt && ((size <= overlay_limit)) || return 1
+    ((size)) || return 0
+    ((${#part[@]} == overlay_at + 8)) || return 1
+    for ((i = overlay_at; i < overlay_at + 8; i++)); do printf -v total '%s%02X' "$total" "${part[i]}"; done
+    printf -v size 'D00DFEED%08X' "$size"
+    [[ $total == "$size" ]]
 }
 
 # Copies a range (offset, length) of the partition to standard output.
@@ -147,9 +158,6 @@ lay_out() {
 
 apply_overlay() {
     local size=$1 message nodes
-    if ((size > overlay_limit)) || ! is_section "$overlay_section_at" hwknobs-dt; then
-        boot_failed 'overlay section damaged'
-    fi
     work=$(mktemp -d -- "$dev/.boot.XXXXXX")
     trap 'rm -rf -- "$work"' EXIT
     cut_out "$overlay_at" "$size" >"$work/overlay.dtbo"
@@ -173,25 +181,27 @@ boot() {
     local part=() setting platform overlay_size entries=0 properties=0 tree='no overlay'
     rm -rf -- "$dev/proc/device-tree/chosen/hwknobs" "$dev/merged.dtb" "$dev/plenv"
     if [[ -e $dev/boot_para ]]; then
-        mapfile -t part < <(od -An -v -w1 -tu1 -N "$overlay_at" -- "$dev/boot_para")
+        mapfile -t part < <(od -An -v -w1 -tu1 -N $((overlay_at + 8)) -- "$dev/boot_para")
     fi
     if ((${#part[@]} < overlay_at)) || ! is_section 0 hwknobs; then
         echo 'boot: no setting'
         return
     fi
-    plenv_is_sound || boot_failed 'plenv block damaged'
-    text_at "$setting_at" 32
+    text_at "$setting_at" 32 || boot_failed 'info damaged'
     setting=$REPLY
-    text_at "$platform_at" 12
+    text_at "$platform_at" 12 || boot_failed 'info damaged'
     platform=$REPLY
-    apply_plenv
+    plenv_is_sound || boot_failed 'plenv block damaged'
     word_at $((overlay_section_at + 4))
     overlay_size=$REPLY
+    overlay_is_sound "$overlay_size" || boot_failed 'overlay section damaged'
+    # The pairs last: a setting whose overlay is refused is not used in part.
     if ((overlay_size)); then
         apply_overlay "$overlay_size"
         counted "$properties" property properties
         tree="$REPLY under /chosen/hwknobs"
     fi
+    apply_plenv
     counted "$entries" 'plenv entry' 'plenv entries'
     printf "boot: setting '%s' for %s applied, %s, %s\n" "$setting" "$platform" "$tree" "$REPLY"
 }
