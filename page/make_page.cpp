@@ -2,6 +2,7 @@
 //
 //   make_page SOURCES OUT: the parts of the page are in the folder SOURCES; catalogue.html and labels.md go to OUT
 #include "hwknobs_item/config_item.h"
+#include "hwknobs_plat/catalogue/fragment.h"
 #include "hwknobs_plat/platform.h"
 #include "hwknobs_plat/plenv_text.h"
 
@@ -22,30 +23,20 @@ using nlohmann::json;
 
 // ---- fragments
 
-std::string without_strings(const char* fragment) {
-    static const std::regex string(R"re("(\\.|[^"\\])*")re");
-    return std::regex_replace(fragment, string, "");
-}
-
-// Each as "&label property" or "&label/node property".
+// Each as "&label property".
 std::vector<std::string> properties_set(const char* fragment) {
-    static const std::regex piece(R"(\s*(?:\w+:\s*|/delete-\w+/\s*)?([^{};=]*?)\s*(?:=[^{};]*)?([{};]))");
-    const std::string source = without_strings(fragment);
     std::vector<std::string> found;
-    std::vector<std::string> nodes;  // that are open, each with the way to it
-    for (std::sregex_iterator it(source.begin(), source.end(), piece); it != std::sregex_iterator(); ++it) {
-        const std::string name = it->str(1);
-        if (it->str(2) == "{") nodes.push_back(nodes.empty() ? name : nodes.back() + "/" + name);
-        else if (nodes.empty()) continue;
-        else if (it->str(2) == "}") nodes.pop_back();
-        else if (!name.empty()) found.push_back(nodes.back() + " " + name);
-    }
+    catalogue::fragment_scanner scanner(fragment);
+    while (const auto property = scanner.next())
+        found.push_back(fmt::format("&{} {}", property->label, property->name));
     return found;
 }
 
+// Those of nodes that a value refers to, too.
 std::set<std::string> labels_needed(const std::string& fragment) {
+    static const std::regex string(R"re("(\\.|[^"\\])*")re");
     static const std::regex label(R"(&(\w+))");
-    const std::string source = without_strings(fragment.c_str());
+    const std::string source = std::regex_replace(fragment, string, "");
     std::set<std::string> found;
     for (std::sregex_iterator it(source.begin(), source.end(), label); it != std::sregex_iterator(); ++it)
         found.insert(it->str(1));
@@ -143,8 +134,8 @@ std::string list_labels(const json& catalogue) {
             const json& knob = catalogue["knobs"][row[1].get<std::size_t>()];
             for (const std::string& label : labels_needed(knob.value("fragment", ""))) labels.try_emplace(label);
             for (const std::string set : knob["sets"])
-                if (const std::size_t end = set.find_first_of(" /"); set.starts_with('&'))
-                    labels[set.substr(1, end - 1)].insert(set.substr(end + 1));
+                if (const std::size_t blank = set.find(' '); set.starts_with('&'))
+                    labels[set.substr(1, blank - 1)].insert(set.substr(blank + 1));
         }
         out += fmt::format("\n## {}\n\nLabels: {}\n\n| label | properties |\n| --- | --- |\n",
                            platform["name"].get<std::string>(), labels.size());

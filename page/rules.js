@@ -54,8 +54,8 @@ function hintsFor(knob, text, value) {
 
 const argumentLetter = {int32: "a", uint32: "u", string: "s"};
 
-// With `text` as the argument of the knob that the tool calls `name`: the argument word, and either the tool's message in `refused`, or `shown`, what
-// stands in the templates, with the hints.
+// With `text` as the argument of the knob that the tool calls `name`: the argument word, and either the tool's message
+// in `refused`, or `shown`, what stands in the templates, with the hints.
 function judge(knob, name, text) {
   if (!knob.arg) return {hints: []};
   if (knob.arg === "refused")
