@@ -3,33 +3,34 @@
 
 load ../device
 
+# Their lines by platform, in files of that name; rows.cpp tells the columns.
 setup_file() {
-    "$CATALOGUE_ROWS" platforms >"$BATS_FILE_TMPDIR/platforms"
+    mkdir "$BATS_FILE_TMPDIR/rows"
+    cd "$BATS_FILE_TMPDIR/rows" || return
+    "$CATALOGUE_ROWS" | awk -F '\t' '{ print >$1 }'
 }
 
-# platforms [VERSION]: the names of all, or of those with tables of that version, in their order.
-platforms() { awk -v version="$1" 'version == "" || $2 == version { print $1 }' "$BATS_FILE_TMPDIR/platforms"; }
+setup() {
+    "$device_script" create "$DEV" --plat-code 8314
+    cd "$BATS_FILE_TMPDIR/rows" || return
+}
+
+# listing PLATFORM: what "list" shows of it.
+listing() {
+    awk -F '\t' '$2 == 0' "$1" | sort -t $'\t' -n -k 3 | awk -F '\t' '
+        $5 == "" { row[NR] = sprintf("%3d %s %s", $3, $4, $6 == "" ? "" : " [require an argument for customization]") }
+        $5 != "" { row[NR] = sprintf("%3d %-72s %-40s %-12s %-8s", $3, $4, $5, $6, $7) }
+        END {
+            printf "XPR config list %s(arch %s) num:%d\n", $5 == "" ? "" : "V2 ", $1, NR
+            dashes = sprintf("%144s", "")
+            gsub(" ", "-", dashes)
+            if ($5 != "") printf "%3s %-72s %-40s %-12s %-8s\n%s\n", "ID", "DESC", "NAME", "ARG", "GROUP", dashes
+            for (i = 1; i <= NR; i++) print row[i]
+        }'
+}
 
 @test "list shows the rows of every table" {
-    for platform in $(platforms); do
-        # Without the heading, and with one blank between columns.
-        diff <("$CATALOGUE_ROWS" list "$platform") <("$HWKNOBS" --plat="$platform" list | sed -E '1d; 2{/ID/d}; 3{/^-/d}
-            s/^ +//; s/ +/ /g; s/ \[require an argument.*/ required/; s/ $//')
-    done
-}
-
-@test "each hardware code detects its platform, from either place" {
-    detected() { hwknobs list | sed -n '1s/.*(arch \([^)]*\)).*/\1/p'; }
-    while read -r platform _ code; do
-        printf '%s\n' "$code" >"$DEV/proc/chip/hw_code"
-        [[ $(detected) == "$platform" ]]
-        rm "$DEV/proc/chip/hw_code"
-        # Five words; the code stands in the second.
-        printf -v code '%04x' "$((16#$code))"
-        printf '%b' '\0\0\0\0' "\\x${code:2}\\x${code:0:2}" '\0\0\0\0\0\0\0\0\0\0\0\0\0\0' \
-            >"$DEV/proc/device-tree/chosen/atag,chipid"
-        [[ $(detected) == "$platform" ]]
-    done <"$BATS_FILE_TMPDIR/platforms"
+    for platform in *; do diff <(listing "$platform") <("$HWKNOBS" --plat="$platform" list); done
 }
 
 # settings OVERLAY: label and name of each property that it sets, in the order of its fragments. The labels come last.
@@ -50,27 +51,36 @@ base_for() {
     echo '};'
 }
 
+# Marks make the compiler's messages name the row. The empty root node in between keeps two fragments that are broken
+# alone from being sound together.
+overlay() {
+    echo '/dts-v1/; /plugin/;'
+    awk -F '\t' '$9 != "" { printf "/ { };\n# 1 \"%s row %d\"\n%s\n", $1, $3, $9 }' "$1"
+}
+
 @test "all fragments compile without a word, set what the rules see, and merge" {
-    cd "$BATS_TEST_TMPDIR"
-    for platform in $(platforms); do
-        "$CATALOGUE_ROWS" overlay "$platform" >rows.dts
-        expect 0 "" dtc -I dts -O dtb -o rows.dtbo rows.dts
-        diff <("$CATALOGUE_ROWS" sets "$platform") <(settings rows.dtbo)
-        base_for rows.dtbo | dtc -@ -I dts -O dtb -o base.dtb
-        fdtoverlay -i base.dtb -o merged.dtb rows.dtbo
+    for platform in *; do
+        overlay "$platform" >"$DEV/dts"
+        expect 0 "" dtc -I dts -O dtb -o "$DEV/dtbo" "$DEV/dts"
+        diff <(cut -f 10- "$platform" | tr '\t' '\n' | grep .) <(settings "$DEV/dtbo")
+        base_for "$DEV/dtbo" | dtc -@ -I dts -O dtb -o "$DEV/base"
+        fdtoverlay -i "$DEV/base" -o "$DEV/merged" "$DEV/dtbo"
     done
 }
 
+# Of all arguments with the same number at once. A sign, and digits of a string, are not read back.
 @test "what is selected is read back, with each argument" {
-    for platform in $(platforms 2); do
-        for ((n = 0; ; n++)); do
-            mapfile -t words < <("$CATALOGUE_ROWS" words "$platform" $n | tr -s ' \n' '\n')
-            ((${#words[@]})) || break
-            run -0 --separate-stderr hwknobs --plat="$platform" setname "${words[@]}"
-            diff <(grep -P '^\tActivate' <<<"$output" | sed 's/^\t/   /') \
-                <(hwknobs status --partition | sed '1,/^== dts/d')
-        done
-        # The lowest and the highest number at least.
-        ((n >= 2))
-    done
+    mkdir "$DEV/data/words"
+    awk -F '\t' -v words="$DEV/data/words" '$5 != "" { print $5, $8 >words "/" $1 "." $2 }' ./*
+    device run sh -e >"$DEV/lines" <<'END'
+for words in words/*; do
+    platform=${words#*/}
+    xargs hwknobs --plat="${platform%.*}" setname <"$words" | sed -n 's/^\tActivate/   Activate/p' |
+        sed 's/\[arg=-[0-9]*\]/[arg=0]/; s/\[str=[0-9,]*\]/[str=]/' >set
+    hwknobs status --partition | grep '^   Activate' | diff set -
+    cat set
+done
+END
+    # Each sample of each row.
+    [[ $(grep -c . "$DEV/lines") == $(cat "$DEV"/data/words/* | wc -l) ]]
 }
