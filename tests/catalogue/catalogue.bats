@@ -29,8 +29,12 @@ listing() {
         }'
 }
 
-@test "list shows the rows of every table" {
-    for platform in *; do diff <(listing "$platform") <("$HWKNOBS" --plat="$platform" list); done
+@test "list shows the rows of every table, and the completions read them there" {
+    for platform in *; do
+        diff <(listing "$platform") <("$HWKNOBS" --plat="$platform" list)
+        awk -F '\t' '$2 == 0 { print $3, $5 == "" ? "-" : $5, $6 == "" ? "-" : $6, $4 }' "$platform" | sort -n |
+            diff - <("$HWKNOBS" --plat="$platform" list | sed -nE -f "$tests/../share/completions/list_rows.sed")
+    done
 }
 
 # settings OVERLAY: label and name of each property that it sets, in the order of its fragments. The labels come last.
