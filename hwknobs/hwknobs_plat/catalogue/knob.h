@@ -5,7 +5,7 @@
 //     both(key, value, fragment)
 //     dt_arg(...), env_arg(...)    the same with an argument: a conversion in the last text
 //
-// and, where others set the same key or property, the choice that it is an alternative of: choice{"GPU power policy"}.
+// and, where others set the same key or property, the choice that it is an alternative of: choice{"KVM mode"}.
 #pragma once
 
 #include "hwknobs_plat/catalogue/text.h"

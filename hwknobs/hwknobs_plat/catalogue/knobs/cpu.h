@@ -13,15 +13,6 @@ inline constexpr knob cpu_start_mask_set = {
     CPU, "cpu_start_mask_set", text<"Set mask of cores to start, keep bit 0, the boot core (0x1-{})", AllCores>,
     dt_arg("&chosen { cpu-start-mask = <0x%x>; };")};
 
-// The kernel starts a core whatever the status of its node but "fail", and does not look at that of a cluster. These
-// are properties of the chip's own CPU start-up, which leaves a core off that any of them names.
-inline constexpr knob cpu3_off = {CPU, "cpu3_off", "Leave CPU3 off", dt("&chosen { cpu-start-skip-3; };")};
-
-template <unsigned Cpu, word Core>
-inline constexpr knob big_core_off = {
-    CPU, text<"cpu{}_off", Cpu>, text<"Leave CPU{} off (Cortex-{}, big cluster)", Cpu, Core>,
-    dt(text<"&chosen { cpu-start-skip-{}; };", Cpu>)};
-
 inline constexpr knob big_off = {CPU, "big_off", "Leave whole big cluster off", dt("&chosen { cpu-start-skip-big; };")};
 
 inline constexpr knob cpu_hotplug_disable = {
@@ -30,14 +21,8 @@ inline constexpr knob cpu_hotplug_disable = {
 inline constexpr knob core_ctl_disable = {
     CPU, "core_ctl_disable", "Disable core control, never isolate lightly loaded cores",
     dt(R"(&core_ctl { status = "disabled"; };)")};
-inline constexpr knob mid_off = {CPU, "mid_off", "Leave whole mid cluster off", dt("&chosen { cpu-start-skip-mid; };")};
 inline constexpr knob cpufreq_disable = {
     CPU, "cpufreq_disable", "Disable CPU frequency scaling, stay at the boot clock", dt("&chosen { cpufreq-off; };")};
-
-template <unsigned Mhz>
-inline constexpr knob cpu_fix = {
-    CPU, text<"cpu_fix_{}mhz", Mhz>, text<"Fix CPU cluster at {} MHz", Mhz>,
-    dt(text<"&cpufreq_cpu { fixed-frequency-mhz = <{}>; };", Mhz>), choice{"CPU frequency"}};
 
 template <unsigned MinMhz, unsigned MaxMhz>
 inline constexpr knob cpu_cap_set = {
@@ -45,17 +30,11 @@ inline constexpr knob cpu_cap_set = {
     dt_arg("&cpufreq_cpu { max-frequency-mhz = <0x%x>; };")};
 
 inline constexpr knob cpu_fix_max = {
-    CPU, "cpu_fix_max", "Fix all clusters at their highest operating point", dt(R"(&cpufreq { fixed-opp = "max"; };)"),
-    choice{"operating point of all clusters"}};
+    CPU, "cpu_fix_max", "Fix all CPUs at their highest operating point", dt(R"(&cpufreq { fixed-opp = "max"; };)"),
+    choice{"operating point of all CPUs"}};
 inline constexpr knob cpu_fix_min = {
-    CPU, "cpu_fix_min", "Fix all clusters at their lowest operating point", dt(R"(&cpufreq { fixed-opp = "min"; };)"),
-    choice{"operating point of all clusters"}};
-
-template <word Cluster, unsigned Mhz>
-inline constexpr knob cluster_fix = {
-    CPU, text<"{}_fix_{}mhz", Cluster, Mhz>, text<"Fix {} cluster at {} MHz", Cluster, Mhz>,
-    dt(text<"&cpufreq_{} { fixed-frequency-mhz = <{}>; };", Cluster, Mhz>),
-    choice{text<"{} cluster frequency", Cluster>}};
+    CPU, "cpu_fix_min", "Fix all CPUs at their lowest operating point", dt(R"(&cpufreq { fixed-opp = "min"; };)"),
+    choice{"operating point of all CPUs"}};
 
 template <unsigned MinMhz, unsigned MaxMhz>
 inline constexpr knob big_cap_set = {
@@ -64,11 +43,6 @@ inline constexpr knob big_cap_set = {
 
 inline constexpr knob big_turbo_disable = {
     CPU, "big_turbo_disable", "Disable turbo operating points of big cluster", dt("&cpufreq_big { turbo-disable; };")};
-inline constexpr knob boot_opp_max = {
-    CPU, "boot_opp_max", "Run the boot core at its highest clock in the bootloader", env("bootopp", "max")};
-inline constexpr knob interactive_timer_10ms = {
-    CPU, "interactive_timer_10ms", "Set interactive timer_rate to 10 ms",
-    dt("&chosen { interactive-timer-rate-us = <10000>; };")};
 inline constexpr knob hmp_disable = {
     CPU, "hmp_disable", "Disable HMP task migration between little and big cores", dt("&chosen { hmp-disable; };")};
 inline constexpr knob cpufreq_sw_dvfs = {
@@ -99,9 +73,6 @@ inline constexpr knob big_isolate = {
     CPU, "big_isolate", "Keep normal tasks off the big cluster (isolcpus)",
     dt(text<R"(&chosen { isolated-cpus = "{}"; };)", Cpus>)};
 
-inline constexpr knob sched_feature_set = {
-    CPU, "sched_feature_set", "Set one scheduler feature by name, prefix NO_ clears it",
-    dt_arg(R"(&chosen { sched-feature = "%s "; };)")};
 inline constexpr knob cpuidle_disable = {
     CPU, "cpuidle_disable", "Use WFI only, disable deeper CPU idle states", dt("&chosen { cpuidle-off; };")};
 inline constexpr knob core_off_disable = {
@@ -130,14 +101,11 @@ inline constexpr knob l3_fix_max = {
 inline constexpr knob l3_powerdown_disable = {
     CPU, "l3_powerdown_disable", "Keep all L3 ways powered, no partial power-down",
     dt("&dsu { no-partial-power-down; };")};
-inline constexpr knob l3_half = {CPU, "l3_half", "Power up only half of the L3 ways", env("l3", "half")};
 inline constexpr knob mpam_disable = {
     CPU, "mpam_disable", "Disable MPAM cache and bandwidth partitioning", dt(R"(&mpam { status = "disabled"; };)")};
 inline constexpr knob mpam_little_l3_portion_limit_half = {
     CPU, "mpam_little_l3_portion_limit_half", "Limit little cluster to half of the L3 portions (MPAM)",
     dt(R"(&dsu { mpam-little-portions = "half"; };)")};
-inline constexpr knob prefetch_disable = {
-    CPU, "prefetch_disable", "Disable hardware data prefetchers of all cores", env("cpupf", "off")};
 inline constexpr knob cpu_clock_gating_disable = {
     CPU, "cpu_clock_gating_disable", "Disable dynamic clock gating of the CPU subsystem",
     dt("&cpu_subsys { clock-gating-disable; };")};
@@ -150,12 +118,16 @@ inline constexpr knob cpu_voltage_offset = {
     CPU, "cpu_voltage_offset", "Offset CPU voltage in uV (-50000 to 50000), may hang or damage",
     dt_arg("&svs_cpu { voltage-offset-microvolt = <%d>; };")};
 
-// A row for each supply that the clusters have of their own.
+// A row for each supply that the clusters have of their own. DSU and L3 are on that of the little cluster.
 template <word Cluster>
 inline constexpr knob cluster_voltage_offset = {
     CPU, text<"{}_voltage_offset", Cluster>,
     text<"Offset {} cluster voltage in uV (-50000 to 50000), may damage", Cluster>,
     dt_arg(text<"&svs_{} { voltage-offset-microvolt = <%d>; };", Cluster>)};
+
+inline constexpr knob little_mid_voltage_offset = {
+    CPU, "little_mid_voltage_offset", "Offset little and mid voltage in uV (-50000 to 50000), may damage",
+    dt_arg("&svs_little { voltage-offset-microvolt = <%d>; };")};
 
 inline constexpr knob droop_disable = {
     CPU, "droop_disable", "Disable clock stretching on big cluster voltage droop",
@@ -167,41 +139,20 @@ inline constexpr knob cpu_trip_set = {
     CPU, "cpu_trip_set", "Set CPU throttling trip in millidegrees C (60000-105000), may overheat",
     dt_arg("&cpu_alert0 { temperature = <%d>; };")};
 
-template <word Cores, unsigned Number, word About>
-inline constexpr knob erratum_skip = {
-    CPU, text<"erratum_{}_skip", Number>, text<"Skip Cortex-{} erratum {} workaround ({})", Cores, Number, About>,
-    dt(text<"&chosen { skip-erratum-{}; };", Number>)};
-
-template <word Cores, unsigned Number, word About>
-inline constexpr knob firmware_erratum_skip = {
-    CPU, text<"erratum_{}_skip", Number>, text<"Skip Cortex-{} erratum {} workaround ({})", Cores, Number, About>,
-    env(text<"noerr_{}", Number>, "on")};
-
-inline constexpr knob erratum_fw_skip = {
-    CPU, "erratum_fw_skip", "Skip one secure monitor erratum workaround by its number", env_arg("noerr", "0x%x")};
 inline constexpr knob mitigations_off = {
     CPU, "mitigations_off", "Disable all CPU speculation mitigations",
     dt(R"(&chosen { mitigations-status = "disabled"; };)")};
 inline constexpr knob kpti_disable = {
     CPU, "kpti_disable", "Disable kernel page table isolation (KPTI)", dt(R"(&chosen { kpti-status = "disabled"; };)")};
-inline constexpr knob el0_32bit_disable = {
-    CPU, "el0_32bit_disable", "Refuse 32-bit programs", dt("&chosen { no-32bit-el0; };")};
 inline constexpr knob el0_32bit_mismatch_allow = {
     CPU, "el0_32bit_mismatch_allow", "Run 32-bit programs on the cores that can (mismatched EL0)",
     dt("&chosen { allow-mismatched-32bit-el0; };")};
-inline constexpr knob ssbd_disable = {
-    CPU, "ssbd_disable", "Allow speculative store bypass everywhere (SSBD off)",
-    dt(R"(&chosen { ssbd-status = "disabled"; };)")};
-inline constexpr knob lse_disable = {
-    CPU, "lse_disable", "Use LL/SC loops instead of LSE atomic instructions", dt("&chosen { no-lse; };")};
 inline constexpr knob pauth_disable = {
     CPU, "pauth_disable", "Hide pointer authentication from kernel and programs", dt("&chosen { no-pauth; };")};
 inline constexpr knob bti_disable = {
     CPU, "bti_disable", "Hide branch target identification (BTI)", dt("&chosen { no-bti; };")};
 inline constexpr knob sve_disable = {
     CPU, "sve_disable", "Hide scalable vectors (SVE) from programs", dt("&chosen { no-sve; };")};
-inline constexpr knob pmu_user_access = {
-    CPU, "pmu_user_access", "Let user space read the PMU counters", dt("&chosen { pmu-user-access; };")};
 inline constexpr knob amu_frequency_invariance_disable = {
     CPU, "amu_frequency_invariance_disable", "Do not use AMU counters to scale load by frequency",
     dt("&chosen { no-amu-fie; };")};

@@ -16,9 +16,6 @@ inline constexpr knob panel = {
 inline constexpr knob panel_id_check_skip = {
     DISPLAY, "panel_id_check_skip", "Skip panel ID read, trust the bootloader",
     dt("&dsi0 { panel-id-check-disable; };")};
-inline constexpr knob seamless_logo_disable = {
-    DISPLAY, "seamless_logo_disable", "Reset and reinitialize panel in the kernel (no seamless logo)",
-    dt("&dispsys { continuous-splash-disable; };")};
 inline constexpr knob esd_check_disable = {
     DISPLAY, "esd_check_disable", "Disable panel ESD check", dt("&dsi0 { esd-check-disable; };")};
 
@@ -26,10 +23,6 @@ template <unsigned Hz>
 inline constexpr knob refresh_fix = {
     DISPLAY, text<"refresh_fix_{}hz", Hz>, text<"Fix panel refresh rate at {} Hz", Hz>,
     dt(text<"&dispsys { fixed-refresh-hz = <{}>; };", Hz>), choice{"fixed refresh rate"}};
-
-inline constexpr knob refresh_idle_drop_disable = {
-    DISPLAY, "refresh_idle_drop_disable", "Keep refresh rate when the screen is static",
-    dt("&dispsys { refresh-idle-drop-disable; };")};
 
 template <unsigned MaxMbps>
 inline constexpr knob dsi_lane_rate_set = {
@@ -53,11 +46,6 @@ inline constexpr knob dp_rate_hbr = {
     dt("&dp_tx { max-linkrate-mhz = <2700>; };")};
 inline constexpr knob bl_boot_level_set = {
     DISPLAY, "bl_boot_level_set", "Set bootloader brightness level (0-255)", env_arg("bl_lvl", "0x%x")};
-inline constexpr knob bl_fixed_50 = {
-    DISPLAY, "bl_fixed_50", "Fix panel brightness at 50 percent",
-    dt("&backlight { fixed-brightness-percent = <50>; };")};
-inline constexpr knob bl_pwm_20khz = {
-    DISPLAY, "bl_pwm_20khz", "Set backlight PWM frequency to 20 kHz", dt("&disp_pwm { pwm-frequency-hz = <20000>; };")};
 inline constexpr knob cabc_disable = {
     DISPLAY, "cabc_disable", "Disable content adaptive backlight (CABC)", dt("&dsi0 { cabc-disable; };")};
 inline constexpr knob disp_idle_disable = {
@@ -78,12 +66,9 @@ inline constexpr knob ovl_afbc_disable = {
 inline constexpr knob disp_underrun_red = {
     DISPLAY, "disp_underrun_red", "Output red pixels on display underrun",
     dt("&rdma0 { underrun-color = <0xff0000>; };")};
-inline constexpr knob disp_underrun_panic = {
-    DISPLAY, "disp_underrun_panic", "Panic on display underrun", dt(R"(&dispsys { underrun-action = "panic"; };)"),
-    choice{"display underrun"}};
 inline constexpr knob disp_underrun_action_set = {
     DISPLAY, "disp_underrun_action_set", "Set action on display underrun (none, log, dump or panic)",
-    dt_arg(R"(&dispsys { underrun-action = "%s[none,log,dump,panic]"; };)"), choice{"display underrun"}};
+    dt_arg(R"(&dispsys { underrun-action = "%s[none,log,dump,panic]"; };)")};
 
 template <word AllBits>
 inline constexpr knob drm_debug_mask_set = {

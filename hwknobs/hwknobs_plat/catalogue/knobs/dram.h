@@ -14,18 +14,12 @@ inline constexpr knob dram_fix = {
 template <unsigned Mbps>
 inline constexpr knob dram_max = {
     DRAM, text<"dram_max_{}mbps", Mbps>, text<"Cap DRAM data rate at {} Mbps", Mbps>,
-    dt(text<"&dramc { max-data-rate = <{}>; };", Mbps>), choice{"highest DRAM data rate"}};
+    dt(text<"&dramc { max-data-rate = <{}>; };", Mbps>)};
 
 inline constexpr knob dram_dvfs_disable = {
     DRAM, "dram_dvfs_disable", "Disable DRAM DVFS and stay at the boot data rate", dt("&dramc { dvfs-disable; };")};
 inline constexpr knob dram_train_full = {
     DRAM, "dram_train_full", "Run full DRAM training at every boot", env("ddr_train", "full"), choice{"DRAM training"}};
-inline constexpr knob dram_train_skip = {
-    DRAM, "dram_train_skip", "Skip DRAM training and use default delays (bring-up only)", env("ddr_train", "skip"),
-    choice{"DRAM training"}};
-inline constexpr knob dram_zq_calibration_disable = {
-    DRAM, "dram_zq_calibration_disable", "Disable periodic ZQ calibration",
-    dt(R"(&dramc { zq-calibration = "none"; };)")};
 inline constexpr knob dram_train_renew = {
     DRAM, "dram_train_renew", "Discard saved DRAM training data and retrain", env("ddr_train", "new"),
     choice{"DRAM training"}};
@@ -53,9 +47,6 @@ inline constexpr knob dram_refresh_2x = {
 inline constexpr knob dram_refresh_per_bank = {
     DRAM, "dram_refresh_per_bank", "Use per-bank refresh instead of all-bank refresh",
     dt(R"(&dramc { refresh-mode = "per-bank"; };)"), choice{"DRAM refresh mode"}};
-inline constexpr knob dram_mr4_tracking_disable = {
-    DRAM, "dram_mr4_tracking_disable", "Ignore DRAM temperature (MR4), nominal refresh (hot: data loss)",
-    dt("&dramc { mr4-tracking-disable; };")};
 inline constexpr knob dram_refresh_all_bank = {
     DRAM, "dram_refresh_all_bank", "Use all-bank refresh instead of per-bank refresh",
     dt(R"(&dramc { refresh-mode = "all-bank"; };)"), choice{"DRAM refresh mode"}};
@@ -73,24 +64,10 @@ inline constexpr knob dram_self_refresh_disable = {
     dt("&dramc { idle-self-refresh-disable; };")};
 inline constexpr knob dram_power_down_disable = {
     DRAM, "dram_power_down_disable", "Disable DRAM power-down between accesses", dt("&dramc { power-down-disable; };")};
-inline constexpr knob dram_clock_gating_disable = {
-    DRAM, "dram_clock_gating_disable", "Disable dynamic clock gating of DRAM controller and PHY",
-    dt("&dramc { clock-gating-disable; };")};
 inline constexpr knob dram_wck_always_on = {
     DRAM, "dram_wck_always_on", "Keep DRAM WCK always on", dt("&dramc { wck-always-on; };")};
 inline constexpr knob dram_odt_disable = {
-    DRAM, "dram_odt_disable", "Disable DQ on-die termination (ODT) of DRAM", env("ddr_odt", "off"),
-    choice{"DRAM termination"}};
-
-// The chips know 240 ohms divided by 1 to 6, here and for the driver.
-template <unsigned Ohms>
-inline constexpr knob dram_odt = {
-    DRAM, text<"dram_odt_{}ohm", Ohms>, text<"Set DQ on-die termination of DRAM to {} ohms", Ohms>,
-    env("ddr_odt", text<"{}", Ohms>), choice{"DRAM termination"}};
-template <unsigned Ohms>
-inline constexpr knob dram_drive = {
-    DRAM, text<"dram_drive_{}ohm", Ohms>, text<"Set DRAM output driver impedance to {} ohms", Ohms>,
-    env("ddr_drv", text<"{}", Ohms>)};
+    DRAM, "dram_odt_disable", "Disable DQ on-die termination (ODT) of DRAM", env("ddr_odt", "off")};
 
 inline constexpr knob dram_dbi_disable = {
     DRAM, "dram_dbi_disable", "Disable DRAM data bus inversion (DBI)", env("ddr_dbi", "off")};
@@ -104,11 +81,7 @@ inline constexpr knob dram_inline_ecc_uncorrected_panic = {
 inline constexpr knob dram_rank0_only = {DRAM, "dram_rank0_only", "Use DRAM rank 0 only", env("ddr_ranks", "1")};
 inline constexpr knob dram_channel0_only = {
     DRAM, "dram_channel0_only", "Use DRAM channel 0 only", env("ddr_channels", "1")};
-inline constexpr knob dram_test_quick = {
-    DRAM, "dram_test_quick", "Run a quick memory test after DRAM initialization", env("ddr_test", "mini"),
-    choice{"DRAM test"}};
 inline constexpr knob dram_test_full = {
-    DRAM, "dram_test_full", "Test all DRAM at boot (may take several minutes)", env("ddr_test", "full"),
-    choice{"DRAM test"}};
+    DRAM, "dram_test_full", "Test all DRAM at boot (may take several minutes)", env("ddr_test", "full")};
 
 }  // namespace catalogue

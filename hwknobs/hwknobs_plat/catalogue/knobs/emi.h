@@ -7,9 +7,6 @@ namespace catalogue {
 
 inline constexpr knob emi_bwmon_enable = {
     EMI, "emi_bwmon_enable", "Enable EMI bandwidth monitor for each master", dt(R"(&emi_bwmon { status = "okay"; };)")};
-inline constexpr knob emi_bwmon_window_set = {
-    EMI, "emi_bwmon_window_set", "Set EMI bandwidth monitor window in ms (1-1000)",
-    dt_arg("&emi_bwmon { window-ms = <0x%x>; };")};
 inline constexpr knob emi_hash_disable = {
     EMI, "emi_hash_disable", "Disable EMI address hash across channels and banks", env("emi_hash", "off")};
 inline constexpr knob emi_mpu_panic = {
@@ -18,8 +15,6 @@ inline constexpr knob emi_mpu_panic = {
 inline constexpr knob emi_mpu_log = {
     EMI, "emi_mpu_log", "Only log EMI MPU violations", dt(R"(&emi_mpu { violation-action = "log"; };)"),
     choice{"EMI MPU violation"}};
-inline constexpr knob emi_mpu_disable = {
-    EMI, "emi_mpu_disable", "Disable EMI MPU regions (development devices only)", env("emi_mpu", "off")};
 inline constexpr knob bus_hang_enable = {
     EMI, "bus_hang_enable", "Enable bus hang detection", dt(R"(&bus_hang { status = "okay"; };)")};
 inline constexpr knob bus_hang_panic = {

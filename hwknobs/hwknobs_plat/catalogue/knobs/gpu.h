@@ -12,9 +12,6 @@ inline constexpr knob gpu_fix = {
 
 inline constexpr knob gpu_dvfs_disable = {
     GPU, "gpu_dvfs_disable", "Disable GPU DVFS and keep the boot frequency", dt("&gpufreq { dvfs-disable; };")};
-inline constexpr knob gpu_dvfs_period_set = {
-    GPU, "gpu_dvfs_period_set", "Set GPU load sampling period for DVFS in ms (1-1000)",
-    dt_arg("&mali { dvfs-period-ms = <0x%x>; };")};
 inline constexpr knob gpu_throttle_disable = {
     GPU, "gpu_throttle_disable", "Disable thermal throttling of the GPU (it may overheat)",
     dt("&gpufreq { thermal-throttle-disable; };")};
@@ -31,11 +28,7 @@ inline constexpr knob gpu_power_on_from_boot = {
     GPU, "gpu_power_on_from_boot", "Keep GPU power domain on from the bootloader onward",
     both("gpu_pwr", "on", "&gpufreq { power-always-on; };")};
 inline constexpr knob gpu_policy_always_on = {
-    GPU, "gpu_policy_always_on", "Use always_on GPU power policy", dt(R"(&mali { power-policy = "always_on"; };)"),
-    choice{"GPU power policy"}};
-inline constexpr knob gpu_policy_coarse_demand = {
-    GPU, "gpu_policy_coarse_demand", "Use coarse_demand GPU power policy",
-    dt(R"(&mali { power-policy = "coarse_demand"; };)"), choice{"GPU power policy"}};
+    GPU, "gpu_policy_always_on", "Use always_on GPU power policy", dt(R"(&mali { power-policy = "always_on"; };)")};
 inline constexpr knob gpu_policy_adaptive_set = {
     GPU, "gpu_policy_adaptive_set", "Set adaptive GPU power policy level (0-3, 0 for off)",
     dt_arg("&mali { adaptive-power-policy = <%d>; };")};
@@ -53,10 +46,6 @@ inline constexpr knob gpu_coherency_disable = {
     choice{"GPU coherency"}};
 inline constexpr knob gpu_soft_stop_disable = {
     GPU, "gpu_soft_stop_disable", "Disable soft-stop of GPU jobs", dt("&mali { soft-stop-disable; };")};
-inline constexpr knob gpu_hard_stop_disable = {
-    GPU, "gpu_hard_stop_disable", "Disable hard-stop of GPU jobs", dt("&mali { hard-stop-disable; };")};
-inline constexpr knob gpu_jobs_serialize = {
-    GPU, "gpu_jobs_serialize", "Serialize GPU jobs over all job slots", dt(R"(&mali { serialize-jobs = "full"; };)")};
 inline constexpr knob gpu_csf_fw_timeout_set = {
     GPU, "gpu_csf_fw_timeout_set", "Set GPU firmware response timeout in ms (100-60000)",
     dt_arg("&mali { firmware-timeout-ms = <0x%x>; };")};

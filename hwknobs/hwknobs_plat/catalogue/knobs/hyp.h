@@ -29,9 +29,6 @@ inline constexpr knob hyp_stacktrace_enable = {
 inline constexpr knob el3_log_set = {
     HYP, "el3_log_set", "Set log level of secure monitor (off, error, info or verbose)",
     env_arg("el3_log", "%s[off,error,info,verbose]")};
-inline constexpr knob microdroid_debug_full = {
-    HYP, "microdroid_debug_full", "Start microdroid guests at full debug level",
-    dt(R"(&chosen { microdroid-debug-level = "full"; };)")};
 inline constexpr knob hyp_modules_skip = {
     HYP, "hyp_modules_skip", "Do not load vendor modules at EL2", dt("&hypervisor { vendor-modules-disable; };")};
 

@@ -19,12 +19,13 @@ inline constexpr knob kmemleak_enable = {
 inline constexpr knob kasan_hw_tags_enable = {
     KERNEL, "kasan_hw_tags_enable", "Enable KASAN with MTE hardware tags",
     dt(R"(&chosen { kasan-hw-tags-status = "okay"; };)")};
-inline constexpr knob kasan_mode_set_sync_async = {
-    KERNEL, "kasan_mode_set", "Set KASAN tag check mode (sync or async)",
-    dt_arg(R"(&chosen { kasan-mode = "%s[sync,async]"; };)")};
+
+// "asymm" came with kernel 5.16.
+template <word Modes, word Told>
 inline constexpr knob kasan_mode_set = {
-    KERNEL, "kasan_mode_set", "Set KASAN tag check mode (sync, async or asymm)",
-    dt_arg(R"(&chosen { kasan-mode = "%s[sync,async,asymm]"; };)")};
+    KERNEL, "kasan_mode_set", text<"Set KASAN tag check mode ({})", Told>,
+    dt_arg(text<R"(&chosen { kasan-mode = "%s[{}]"; };)", Modes>)};
+
 inline constexpr knob kfence_interval_set = {
     KERNEL, "kfence_interval_set", "Set KFENCE sample interval in ms (0 for off)",
     dt_arg("&chosen { kfence-sample-interval = <0x%x>; };")};
@@ -43,9 +44,6 @@ inline constexpr knob debug_pagealloc_enable = {
 inline constexpr knob init_on_alloc_disable = {
     KERNEL, "init_on_alloc_disable", "Skip zeroing of memory on allocation",
     dt(R"(&chosen { init-on-alloc-status = "disabled"; };)")};
-inline constexpr knob memtest_4_patterns = {
-    KERNEL, "memtest_4_patterns", "Test free memory with 4 patterns early at kernel boot",
-    dt("&chosen { memtest = <4>; };")};
 inline constexpr knob memory_failure_early_kill_enable = {
     KERNEL, "memory_failure_early_kill_enable", "Kill all tasks mapping a page as soon as it is found bad",
     dt("&chosen { memory-failure-early-kill; };")};
@@ -95,9 +93,6 @@ inline constexpr knob dyndbg_set = {
     dt_arg(R"(&chosen { dyndbg-modules = "%s "; };)")};
 inline constexpr knob initcall_debug_enable = {
     KERNEL, "initcall_debug_enable", "Log duration and result of every initcall", dt("&chosen { initcall-debug; };")};
-inline constexpr knob deferred_probe_timeout_set = {
-    KERNEL, "deferred_probe_timeout_set", "Set deferred probe timeout in seconds (-1 no limit)",
-    dt_arg("&chosen { deferred-probe-timeout-sec = <%d>; };")};
 inline constexpr knob fw_devlink_set = {
     KERNEL, "fw_devlink_set", "Set fw_devlink mode (off, permissive, on or rpm)",
     dt_arg(R"(&chosen { fw-devlink = "%s[off,permissive,on,rpm]"; };)")};
@@ -114,9 +109,6 @@ inline constexpr knob panic_on_oops_disable = {
     dt(R"(&chosen { panic-on-oops-status = "disabled"; };)")};
 inline constexpr knob panic_on_warn_enable = {
     KERNEL, "panic_on_warn_enable", "Panic on kernel warning", dt("&chosen { panic-on-warn; };")};
-inline constexpr knob panic_on_bad_page_enable = {
-    KERNEL, "panic_on_bad_page_enable", "Panic when a corrupted page taints the kernel",
-    dt("&chosen { panic-on-taint = <0x20>; };")};
 
 template <word AllBits>
 inline constexpr knob panic_print_set = {
@@ -125,9 +117,6 @@ inline constexpr knob panic_print_set = {
 
 inline constexpr knob sysrq_enable = {
     KERNEL, "sysrq_enable", "Enable all SysRq functions", dt("&chosen { sysrq-always-enabled; };")};
-inline constexpr knob ramdump_disable = {
-    KERNEL, "ramdump_disable", "Disable RAM dump after a crash",
-    both("ramdump", "off", R"(&chosen { ramdump-status = "disabled"; };)"), choice{"RAM dump"}};
 inline constexpr knob ramdump_full_enable = {
     KERNEL, "ramdump_full_enable", "Dump the whole RAM after a crash",
     both("ramdump", "full", R"(&chosen { ramdump-status = "okay"; };)"), choice{"RAM dump"}};
@@ -138,40 +127,21 @@ inline constexpr knob ramdump_to_usb = {KERNEL, "ramdump_to_usb", "Send RAM dump
 inline constexpr knob lowmemorykiller_disable = {
     KERNEL, "lowmemorykiller_disable", "Disable in-kernel low memory killer",
     dt(R"(&chosen { lowmemorykiller-status = "disabled"; };)")};
-inline constexpr knob ramdump_user_pages_skip = {
-    KERNEL, "ramdump_user_pages_skip", "Leave user space pages out of the RAM dump",
-    dt("&chosen { ramdump-skip-user-pages; };")};
 inline constexpr knob pstore_all_reasons = {
     KERNEL, "pstore_all_reasons", "Store kernel log in pstore on every reboot", dt("&ramoops { max-reason = <4>; };")};
-inline constexpr knob pstore_console_1m = {
-    KERNEL, "pstore_console_1m", "Set pstore console log size to 1 MB", dt("&ramoops { console-size = <0x100000>; };")};
 inline constexpr knob cfi_permissive = {
     KERNEL, "cfi_permissive", "Warn on control flow integrity failure instead of panic",
     dt(R"(&chosen { cfi = "warn"; };)")};
-inline constexpr knob selinux_permissive = {
-    KERNEL, "selinux_permissive", "Start SELinux in permissive mode on debug builds", env("selinux", "permissive")};
-inline constexpr knob ion_track_enable = {
-    KERNEL, "ion_track_enable", "Record owner and age of every ION buffer",
-    dt(R"(&chosen { ion-track-status = "okay"; };)")};
 inline constexpr knob mte_enable = {
     KERNEL, "mte_enable", "Enable memory tagging extension and its tag storage",
-    both("mte", "on", R"(&chosen { mte-status = "okay"; };)")};
+    both("mte", "on", R"(&chosen { mte-status = "okay"; };)"), choice{"MTE"}};
+inline constexpr knob mte_disable = {
+    KERNEL, "mte_disable", "Hide memory tagging extension from kernel and programs",
+    both("mte", "off", R"(&chosen { mte-status = "disabled"; };)"), choice{"MTE"}};
 inline constexpr knob mglru_disable = {
     KERNEL, "mglru_disable", "Disable multi-generational LRU", dt(R"(&chosen { lru-gen-status = "disabled"; };)")};
 inline constexpr knob iommu_fault_panic_enable = {
     KERNEL, "iommu_fault_panic_enable", "Panic on IOMMU translation fault", dt("&iommu { fault-panic; };")};
-inline constexpr knob irq_affinity_set = {
-    KERNEL, "irq_affinity_set", "Set default interrupt affinity CPU mask (0x1-0xff)",
-    dt_arg("&chosen { irq-default-affinity = <0x%x>; };")};
-inline constexpr knob irq_storm_detect_enable = {
-    KERNEL, "irq_storm_detect_enable", "Report interrupts firing over 10000 times per second",
-    dt("&chosen { irq-storm-limit-hz = <10000>; };")};
-inline constexpr knob irq_handler_warn_10ms = {
-    KERNEL, "irq_handler_warn_10ms", "Warn when a hard interrupt handler runs over 10 ms",
-    dt("&chosen { irq-handler-limit-ms = <10>; };")};
-inline constexpr knob thermal_critical_ignore = {
-    KERNEL, "thermal_critical_ignore", "Ignore critical temperature trip points (may overheat and damage)",
-    dt(R"(&chosen { thermal-critical-status = "disabled"; };)")};
 inline constexpr knob pseudo_nmi_enable = {
     KERNEL, "pseudo_nmi_enable", "Enable pseudo-NMI by GIC priorities (hard lockup backtrace)",
     dt("&chosen { gicv3-pseudo-nmi; };")};

@@ -7,9 +7,6 @@ namespace catalogue {
 
 inline constexpr knob suspend_disable = {
     LPM, "suspend_disable", "Disable system suspend", dt("&spm { suspend-disable; };")};
-inline constexpr knob usb_suspend_allow = {
-    LPM, "usb_suspend_allow", "Allow system suspend while USB is connected",
-    dt("&usb0 { suspend-wake-lock-disable; };")};
 inline constexpr knob suspend_s2idle = {
     LPM, "suspend_s2idle", "Use suspend-to-idle as default suspend mode",
     dt(R"(&chosen { mem-sleep-default = "s2idle"; };)")};
@@ -17,9 +14,6 @@ inline constexpr knob pm_print_times = {
     LPM, "pm_print_times", "Print suspend and resume time of each device", dt("&chosen { pm-print-times; };")};
 inline constexpr knob pm_debug_messages = {
     LPM, "pm_debug_messages", "Enable suspend and resume debug messages", dt("&chosen { pm-debug-messages; };")};
-inline constexpr knob pm_async_disable = {
-    LPM, "pm_async_disable", "Suspend and resume devices one at a time",
-    dt(R"(&chosen { pm-async-status = "disabled"; };)")};
 inline constexpr knob pm_test_set = {
     LPM, "pm_test_set", "Stop suspend at stage freezer, devices, platform, processors or core",
     dt_arg(R"(&chosen { pm-test = "%s[freezer,devices,platform,processors,core]"; };)")};
@@ -33,8 +27,6 @@ inline constexpr knob wake_reason_log = {
 inline constexpr knob wake_mask_set = {
     LPM, "wake_mask_set", "Mask SPM wake-up sources by bit mask (0x0-0xffffffff)",
     dt_arg("&spm { wake-source-mask = <0x%x>; };")};
-inline constexpr knob modem_wake_mask = {
-    LPM, "modem_wake_mask", "Mask wake-up by modem", dt("&spm { wake-mask-modem; };")};
 inline constexpr knob gic_pending_log = {
     LPM, "gic_pending_log", "Log pending GIC interrupts when suspend is aborted", dt("&gic { suspend-pending-log; };")};
 inline constexpr knob soc_idle_disable = {
@@ -48,19 +40,12 @@ inline constexpr knob bus_pll_keep = {
     LPM, "bus_pll_keep", "Keep bus PLL on in SoC idle", dt("&spm { idle-bus-pll-off-disable; };")};
 inline constexpr knob vcore_lp_disable = {
     LPM, "vcore_lp_disable", "Keep VCORE at active voltage in suspend", dt("&spm { vcore-low-power-disable; };")};
-inline constexpr knob xo_lp_disable = {
-    LPM, "xo_lp_disable", "Keep crystal oscillator out of low-power mode", env("xo_lp", "off")};
-inline constexpr knob cpu_subsys_off_disable = {
-    LPM, "cpu_subsys_off_disable", "Keep CPU subsystem powered in SoC idle",
-    dt("&lpm { cpu-subsystem-off-disable; };")};
 inline constexpr knob resource_req_log = {
     LPM, "resource_req_log", "Log resource requests that block SoC idle", dt("&spm { resource-request-log; };")};
 inline constexpr knob sleep_count_log = {
     LPM, "sleep_count_log", "Print 26 MHz off and self-refresh counters at resume", dt("&spm { sleep-counter-log; };")};
 inline constexpr knob spm_log_enable = {
     LPM, "spm_log_enable", "Enable log of SPM firmware", both("spm_log", "on", "&spm { firmware-log; };")};
-inline constexpr knob spm_firmware_skip = {
-    LPM, "spm_firmware_skip", "Do not load SPM firmware, stay in WFI when idle", env("spm_fw", "off")};
 inline constexpr knob bus_clock_gating_disable = {
     LPM, "bus_clock_gating_disable", "Disable hardware clock gating of system bus",
     dt("&sysbus { clock-gating-disable; };")};
@@ -68,8 +53,5 @@ inline constexpr knob cam_clocks_on = {
     LPM, "cam_clocks_on", "Keep camera clocks on", dt("&camsys { clocks-always-on; };")};
 inline constexpr knob audio_clocks_on = {
     LPM, "audio_clocks_on", "Keep audio clocks on", dt("&audsys { clocks-always-on; };")};
-inline constexpr knob disp_clock_gating_disable = {
-    LPM, "disp_clock_gating_disable", "Disable hardware clock gating of display",
-    dt("&dispsys { clock-gating-disable; };")};
 
 }  // namespace catalogue

@@ -5,6 +5,9 @@
 
 namespace catalogue {
 
+// A pair for core and memory, which the bootloader sets up before anything else runs; the offset alone for modem, AI
+// processor and GPU memories. Offsets of CPU and GPU stand with those. The SRAM rail follows the core's by itself, vs1
+// to vs3 feed LDOs only, and vpa follows the output power of the modem.
 template <word Buck>
 inline constexpr knob buck_plus_25mv = {
     PMIC, text<"buck_{}_plus_25mv", Buck>, text<"Raise buck {} by 25 mV in the bootloader", Buck>,
@@ -38,18 +41,9 @@ inline constexpr knob pwrkey_reset_disable = {
     PMIC, "pwrkey_reset_disable", "Disable long-press reset of the power key (no way out of a hang)",
     both("lprst", "off", "&pmic_keys { long-press-reset-disable; };")};
 
-// The chip knows 5, 8, 11 and 14 s.
-template <unsigned Seconds>
-inline constexpr knob pwrkey_reset_time = {
-    PMIC, text<"pwrkey_reset_time_{}s", Seconds>, text<"Set long-press reset time of the power key to {} s", Seconds>,
-    dt(text<"&pmic_keys { power-off-time-sec = <{}>; };", Seconds>), choice{"power key reset time"}};
-
-inline constexpr knob pmic_reset_cold = {
-    PMIC, "pmic_reset_cold", "Power-cycle all rails on reboot", dt(R"(&pmic { reset-type = "cold"; };)"),
-    choice{"PMIC reset"}};
 inline constexpr knob pmic_reset_warm = {
     PMIC, "pmic_reset_warm", "Use warm reset on reboot and panic (DRAM stays powered)",
-    dt(R"(&pmic { reset-type = "warm"; };)"), choice{"PMIC reset"}};
+    dt(R"(&pmic { reset-type = "warm"; };)")};
 inline constexpr knob pmic_wdt_disable = {
     PMIC, "pmic_wdt_disable", "Disable PMIC watchdog (a hang does not end by itself)",
     both("pmic_wdt", "off", R"(&pmic_watchdog { status = "disabled"; };)")};
@@ -59,8 +53,6 @@ inline constexpr knob pmic_reg_dump = {
 inline constexpr knob pmic_reg_print = {
     PMIC, "pmic_reg_print", "Print one PMIC register at probe by address (0x0-0xffff)",
     dt_arg("&pmic { probe-register-print = <0x%x>; };")};
-inline constexpr knob pmic_irq_log = {
-    PMIC, "pmic_irq_log", "Log each PMIC interrupt with its status bits", dt("&pmic { interrupt-log; };")};
 inline constexpr knob pmic_boot_reason_log = {
     PMIC, "pmic_boot_reason_log", "Print PMIC power-on and power-off reasons at boot",
     dt("&pmic { power-reason-log; };")};

@@ -17,10 +17,6 @@ inline constexpr knob boot_profile_enable = {
     TOOL, "boot_profile_enable", "Enable boot time profiling", both("bprof", "on", "&chosen { boot-profile; };")};
 inline constexpr knob adb_early_start = {
     TOOL, "adb_early_start", "Start adb early at boot", dt("&chosen { adb-early-start; };")};
-inline constexpr knob usb_dl_wait_30s = {
-    TOOL, "usb_dl_wait_30s", "Wait 30 s for USB download at power-on", env("dl_wait", "30")};
-inline constexpr knob boot_fastboot = {
-    TOOL, "boot_fastboot", "Stop in fastboot at every boot (Android no longer starts)", env("mode", "fastboot")};
 inline constexpr knob jtag_pins_enable = {
     TOOL, "jtag_pins_enable", "Enable JTAG on dedicated debug pins", env("jtag", "pin")};
 inline constexpr knob last_pc_print = {
@@ -65,24 +61,14 @@ inline constexpr knob conn_log_enable = {
 inline constexpr knob sensorhub_log_enable = {
     TOOL, "sensorhub_log_enable", "Enable log of sensor hub firmware", dt("&sensor_hub { firmware-log; };")};
 
-// Kernel tracing
-inline constexpr knob trace_buf_16m = {
-    TOOL, "trace_buf_16m", "Set ftrace buffer size per CPU to 16 MB", dt("&chosen { trace-buf-size-kb = <16384>; };"),
-    choice{"ftrace buffer size"}};
 inline constexpr knob trace_buf_size_set = {
     TOOL, "trace_buf_size_set", "Set ftrace buffer size per CPU in KB (4-65536)",
-    dt_arg("&chosen { trace-buf-size-kb = <0x%x>; };"), choice{"ftrace buffer size"}};
+    dt_arg("&chosen { trace-buf-size-kb = <0x%x>; };")};
 inline constexpr knob trace_sched_irq_boot = {
     TOOL, "trace_sched_irq_boot", "Record scheduler and interrupt events from boot",
     dt(R"(&chosen { trace-event = "sched,irq,ipi"; };)")};
 inline constexpr knob trace_dump_on_oops = {
     TOOL, "trace_dump_on_oops", "Dump ftrace buffers of all CPUs to console on oops",
     dt("&chosen { ftrace-dump-on-oops = <1>; };")};
-inline constexpr knob disp_frame_trace = {
-    TOOL, "disp_frame_trace", "Trace frame commit, start and done in ftrace", dt("&dispsys { frame-trace; };")};
-inline constexpr knob gpu_job_trace = {
-    TOOL, "gpu_job_trace", "Trace start and end of GPU jobs in ftrace", dt("&mali { job-trace; };")};
-inline constexpr knob lpm_trace_boot = {
-    TOOL, "lpm_trace_boot", "Enable low-power trace events from boot", dt("&lpm { trace-at-boot; };")};
 
 }  // namespace catalogue

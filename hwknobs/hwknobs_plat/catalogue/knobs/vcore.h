@@ -14,9 +14,6 @@ inline constexpr knob vcore_fix = {
     VCORE, text<"vcore_fix_{}mv", Mv>, text<"Fix VCORE at {} mV", Mv>,
     dt(text<"&vcore_dvfs { fixed-microvolt = <{}>; };", Mv * 1000>), choice{"fixed VCORE level"}};
 
-inline constexpr knob vcore_hold_boot = {
-    VCORE, "vcore_hold_boot", "Hold highest VCORE level until boot has completed",
-    both("vcore_lv", "max", R"(&vcore_dvfs { boot-hold-level = "max"; };)")};
 inline constexpr knob vcore_req_log = {
     VCORE, "vcore_req_log", "Log VCORE level requests per client", dt("&vcore_dvfs { request-log; };")};
 inline constexpr knob vcore_floor_set = {

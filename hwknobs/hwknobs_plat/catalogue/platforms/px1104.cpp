@@ -2,11 +2,17 @@
 //
 // CPU      cpu: 4 x A53 (cpu0-3), 442 to 1300 MHz
 // GPU      Mali-T720, 1 shader core, 299 to 450 MHz
-// DRAM     LPDDR2, 1 channel, 1066 / 938 / 800 Mbps
+// DRAM     LPDDR2, 1 channel, 1066 / 938 / 800 Mbps, rate set at boot (no DVFS)
 // Display  1 DSI link, up to 60 Hz; panels hx8394_wxga_video, ili9881_wxga_video, st7703_wxga_video
-// PMIC     rails vproc, vcore, vgpu, vdram, vpa; LDOs vio18, vio28, vemmc33, vsd33, vusb33, vcam28, vvib
+// PMIC     rails vproc, vcore, vgpu, vdram, vpa; LDOs vio18, vio28, vemmc33, vsd33, vusb33, vcam28, vvib; VCORE fixed,
+//          no adaptive voltage scaling, no gauge
+// Charger  linear, limits fixed
 // Storage  eMMC 4.5
 // Modem    3G
+// Buses    USB 2 dual role, SD slot (UHS-I), I2C
+// Wi-Fi    on SDIO
+// Debug    JTAG, no debug latch
+// None     IOMMU, EMI MPU, SoC idle, picture quality blocks
 // clang-format off
 #include "hwknobs_plat/catalogue/knobs.h"
 #include "hwknobs_plat/catalogue/table.h"
@@ -16,88 +22,89 @@ using namespace catalogue;
 namespace {
 
 constexpr knob rows[] = {
-    // Kernel debugging and behavior
+    // Kernel: arguments, modules, memory
+    kernel_argument_add,
+    initcall_debug_enable,
+    dyndbg_set,
+    clk_ignore_unused,
+    regulator_ignore_unused,
+    memory_limit_set,
+    cma_size_set,
+    zram_disable,
+    lowmemorykiller_disable,
     kmemleak_disable,
     kmemleak_enable,
     slub_debug_enable,
+
+    // Kernel: lockups, panic, watchdog, RAM dump
     lockdep_enable,
+    hung_task_timeout_set,
     hung_task_panic_enable,
     softlockup_panic_enable,
+    panic_timeout_set,
+    panic_on_oops_disable,
+    sysrq_enable,
+    kgdb_uart_enable,
     watchdog_disable,
     watchdog_timeout_set,
+    watchdog_percpu_kick_enable,
+    ramdump_full_enable,
+    ramdump_to_usb,
+
+    // Kernel: console
     console_level_set,
     uart_console_disable,
     uart_console_enable,
-    console_suspend_disable,
     earlycon_enable,
     uart_shell_set,
     uart_baud_921600,
-    initcall_debug_enable,
-    kernel_argument_add,
-    memory_limit_set,
-    clk_ignore_unused,
-    regulator_ignore_unused,
-    panic_timeout_set,
-    sysrq_enable,
-    ramdump_full_enable,
-    ramdump_to_usb,
-    iommu_fault_panic_enable,
+    console_suspend_disable,
+    log_buf_8m,
+
+    // Kernel: storage, USB, PCIe, I2C, modem
     emmc_rpm_disable,
+    emmc_clk_50mhz,
+    sd_uhs_disable,
     usb_role_set,
+    i2c0_100khz,
     modem_off,
 
     // CPU
     boot_core_only,
     cpu_hotplug_disable,
     cpufreq_disable,
-    cpu_fix<1300>,
+    cpu_fix_max,
+    cpu_fix_min,
     cpu_cap_set<442, 1300>,
-    boot_opp_max,
     cpuidle_disable,
     core_off_disable,
     cluster_off_disable,
-    prefetch_disable,
     cpu_clock_gating_disable,
-    svs_disable,
-    cpu_voltage_offset,
     cpu_throttle_disable,
 
     // DRAM
     dram_fix<1066>,
     dram_fix<800>,
-    dram_dvfs_disable,
     dram_train_full,
-    dram_train_skip,
     dram_refresh_2x,
     dram_refresh_per_bank,
     dram_mr4_override<7>,
     dram_self_refresh_disable,
     dram_test_full,
 
-    // EMI: memory controller and buses
-    emi_bwmon_enable,
-    emi_mpu_panic,
-    emi_mpu_log,
-    bus_hang_enable,
-
-    // VCORE: core rail levels
-    vcore_dvfs_disable,
-    vcore_fix<1125>,
-    vcore_hold_boot,
-    vcore_req_log,
-
     // PMIC and charging
     buck_plus_25mv<"vcore">,
+    buck_plus_25mv<"vdram">,
     buck_offset<"vcore">,
+    buck_offset<"vdram">,
     buck_pwm_all,
     pmic_lp_mode_disable,
     ldo_vsd33_on,
     pmic_oc_log_only,
     pwrkey_reset_disable,
-    pwrkey_reset_time<8>,
     pmic_reset_warm,
     pmic_reg_dump,
-    gauge_soc_50,
+    chg_disable,
 
     // GPU
     gpu_fix<450>,
@@ -116,16 +123,17 @@ constexpr knob rows[] = {
     panel<"hx8394_wxga_video">,
     panel<"ili9881_wxga_video">,
     panel<"st7703_wxga_video">,
+    panel_id_check_skip,
     esd_check_disable,
+    dsi_lane_rate_set<1500>,
     dsi_clk_continuous,
     dsi_ssc_disable,
-    bl_fixed_50,
+    bl_boot_level_set,
     cabc_disable,
     disp_idle_disable,
     disp_underrun_red,
     dsi_bist_boot,
     boot_logo_disable,
-    pq_bypass,
 
     // LPM: low power
     suspend_disable,
@@ -133,21 +141,21 @@ constexpr knob rows[] = {
     pm_test_set,
     wakelock_log,
     wake_reason_log,
-    soc_idle_disable,
     clk26m_keep,
-    idle_self_refresh_disable,
     bus_clock_gating_disable,
+    cam_clocks_on,
+    audio_clocks_on,
 
     // TOOL: logs, trace and bring-up
     bootloader_log_verbose,
     log_store_enable,
     boot_reason_print,
     boot_profile_enable,
+    adb_early_start,
     jtag_pins_enable,
-    last_pc_print,
-    trace_buf_16m,
+    trace_buf_size_set,
     trace_sched_irq_boot,
-    disp_frame_trace,
+    trace_dump_on_oops,
 };
 
 }  // namespace

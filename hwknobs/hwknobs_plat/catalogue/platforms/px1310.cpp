@@ -7,8 +7,12 @@
 // Display  1 DSI link, up to 60 Hz; panels nt35695_fhd_cmd, nt36672_fhd_video, r63419_wqhd_cmd
 // PMIC     rails vproc1, vproc2, vcore, vgpu, vdram, vs1, vs2; LDOs vio18, vio28, vemmc33, vsd33, vusb33, vcam28,
 //          vvib, vconn18, vconn33, vrf18
+// Charger  linear, limits fixed
 // Storage  eMMC 5.1
 // Modem    LTE
+// Buses    USB 2 dual role, SD slot (UHS-I), I2C
+// Wi-Fi    in the chip
+// Debug    JTAG, debug latch, bus hang detector, EMI bandwidth monitor
 // clang-format off
 #include "hwknobs_plat/catalogue/knobs.h"
 #include "hwknobs_plat/catalogue/table.h"
@@ -18,53 +22,62 @@ using namespace catalogue;
 namespace {
 
 constexpr knob rows[] = {
-    // Kernel debugging and behavior
+    // Kernel: arguments, modules, memory
+    kernel_argument_add,
+    initcall_debug_enable,
+    dyndbg_set,
+    clk_ignore_unused,
+    regulator_ignore_unused,
+    memory_limit_set,
+    cma_size_set,
+    zram_disable,
+    lowmemorykiller_disable,
     kmemleak_disable,
     kmemleak_enable,
     slub_debug_enable,
+
+    // Kernel: lockups, panic, watchdog, RAM dump
     lockdep_enable,
+    hung_task_timeout_set,
     hung_task_panic_enable,
     softlockup_panic_enable,
-    watchdog_disable,
-    watchdog_timeout_set,
-    watchdog_percpu_kick_enable,
-    console_level_set,
-    uart_console_disable,
-    uart_console_enable,
-    log_buf_8m,
-    console_suspend_disable,
-    earlycon_enable,
-    uart_shell_set,
-    uart_baud_921600,
-    initcall_debug_enable,
-    kernel_argument_add,
-    memory_limit_set,
-    clk_ignore_unused,
-    regulator_ignore_unused,
+    iommu_fault_panic_enable,
     panic_timeout_set,
     panic_on_oops_disable,
     sysrq_enable,
+    kgdb_uart_enable,
+    watchdog_disable,
+    watchdog_timeout_set,
+    watchdog_percpu_kick_enable,
     ramdump_full_enable,
     ramdump_to_usb,
-    lowmemorykiller_disable,
-    ion_track_enable,
-    iommu_fault_panic_enable,
-    irq_storm_detect_enable,
-    irq_handler_warn_10ms,
-    emmc_hs400_disable,
+
+    // Kernel: console
+    console_level_set,
+    uart_console_disable,
+    uart_console_enable,
+    earlycon_enable,
+    uart_shell_set,
+    uart_baud_921600,
+    console_suspend_disable,
+    log_buf_8m,
+
+    // Kernel: storage, USB, PCIe, I2C, modem
     emmc_rpm_disable,
+    emmc_hs400_disable,
+    emmc_clk_50mhz,
+    sd_uhs_disable,
     usb_role_set,
+    i2c0_100khz,
     modem_off,
 
     // CPU
     boot_core_only,
-    big_core_off<5, "A72">,
     big_off,
     cpu_hotplug_disable,
     cpufreq_disable,
     cpu_fix_max,
     cpu_fix_min,
-    cluster_fix<"big", 2002>,
     big_cap_set<754, 2002>,
     hmp_disable,
     big_isolate<"4-5">,
@@ -73,7 +86,6 @@ constexpr knob rows[] = {
     little_cluster_off_disable,
     big_cluster_off_disable,
     cci_fix_max,
-    prefetch_disable,
     cpu_clock_gating_disable,
     cache_ecc_log,
     svs_disable,
@@ -83,25 +95,18 @@ constexpr knob rows[] = {
 
     // DRAM
     dram_fix<1866>,
-    dram_fix<1600>,
     dram_fix<1270>,
     dram_dvfs_disable,
     dram_train_full,
-    dram_train_skip,
-    dram_zq_calibration_disable,
     dram_refresh_2x,
     dram_refresh_per_bank,
-    dram_mr4_tracking_disable,
     dram_mr4_override<7>,
     dram_self_refresh_disable,
     dram_channel0_only,
-    dram_test_quick,
     dram_test_full,
 
-    // EMI: memory controller and buses
+    // EMI: memory controller, buses, system cache
     emi_bwmon_enable,
-    emi_bwmon_window_set,
-    emi_hash_disable,
     emi_mpu_panic,
     emi_mpu_log,
     bus_hang_enable,
@@ -109,24 +114,23 @@ constexpr knob rows[] = {
     // VCORE: core rail levels
     vcore_dvfs_disable,
     vcore_fix<1125>,
-    vcore_hold_boot,
     vcore_req_log,
 
     // PMIC and charging
     buck_plus_25mv<"vcore">,
     buck_plus_25mv<"vdram">,
     buck_offset<"vcore">,
+    buck_offset<"vdram">,
     buck_pwm_all,
     pmic_lp_mode_disable,
     ldo_vsd33_on,
     pmic_oc_log_only,
     pwrkey_reset_disable,
-    pwrkey_reset_time<8>,
     pmic_reset_warm,
     pmic_reg_dump,
-    pmic_irq_log,
-    chg_input_500ma,
+    chg_disable,
     gauge_soc_50,
+    gauge_low_shutdown_disable,
     batt_throttle_disable,
 
     // GPU
@@ -136,7 +140,7 @@ constexpr knob rows[] = {
     gpu_voltage_offset,
     gpu_disable,
     gpu_policy_always_on,
-    gpu_policy_coarse_demand,
+    gpu_one_core,
     enable_gpu_acp,
     gpu_coherency_disable,
     gpu_soft_stop_disable,
@@ -150,37 +154,32 @@ constexpr knob rows[] = {
     panel<"nt36672_fhd_video">,
     panel<"r63419_wqhd_cmd">,
     panel_id_check_skip,
-    seamless_logo_disable,
     esd_check_disable,
     dsi_lane_rate_set<1500>,
     dsi_clk_continuous,
     dsi_ssc_disable,
-    bl_fixed_50,
-    bl_pwm_20khz,
+    bl_boot_level_set,
     cabc_disable,
     disp_idle_disable,
+    disp_partial_disable,
     te_ignore,
+    pq_bypass,
     disp_underrun_red,
-    disp_underrun_panic,
     dsi_bist_boot,
     boot_logo_disable,
-    pq_bypass,
 
     // LPM: low power
     suspend_disable,
-    usb_suspend_allow,
     pm_print_times,
-    pm_async_disable,
     pm_test_set,
     wakelock_log,
     wake_reason_log,
-    modem_wake_mask,
     soc_idle_disable,
     clk26m_keep,
     idle_self_refresh_disable,
-    spm_firmware_skip,
     bus_clock_gating_disable,
-    disp_clock_gating_disable,
+    cam_clocks_on,
+    audio_clocks_on,
 
     // TOOL: logs, trace and bring-up
     bootloader_log_verbose,
@@ -188,14 +187,12 @@ constexpr knob rows[] = {
     boot_reason_print,
     boot_profile_enable,
     adb_early_start,
-    usb_dl_wait_30s,
-    boot_fastboot,
     jtag_pins_enable,
     last_pc_print,
-    conn_log_enable,
+    trace_buf_size_set,
     trace_sched_irq_boot,
     trace_dump_on_oops,
-    disp_frame_trace,
+    conn_log_enable,
 };
 
 }  // namespace

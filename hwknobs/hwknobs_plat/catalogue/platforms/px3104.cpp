@@ -6,8 +6,12 @@
 // Display  1 DSI link, up to 60 Hz; panels ili9881_hdp_video, nt36525_hdp_video, hx83102_hdp_video
 // PMIC     rails vproc, vcore, vgpu, vdram, vpa, vs1; LDOs vio18, vio28, vemmc33, vsd33, vusb33, vcam28, vvib,
 //          vconn18, vconn33, vrf18, vsim1, vaux18
+// Charger  linear, input limit by register
 // Storage  eMMC 5.1
 // Modem    LTE
+// Buses    USB 2 dual role, SD slot (UHS-I), I2C
+// Wi-Fi    on SDIO
+// Debug    JTAG, ETM, ETF, debug latch, bus hang detector, EMI bandwidth monitor
 // clang-format off
 #include "hwknobs_plat/catalogue/knobs.h"
 #include "hwknobs_plat/catalogue/table.h"
@@ -17,70 +21,84 @@ using namespace catalogue;
 namespace {
 
 constexpr knob rows[] = {
-    // Kernel debugging and behavior
+    // Kernel: arguments, modules, memory
+    kernel_argument_add,
     kaslr_disable,
     kaslr_enable,
+    initcall_debug_enable,
+    dyndbg_set,
+    clk_ignore_unused,
+    regulator_ignore_unused,
+    memory_limit_set,
+    cma_size_set,
+    zram_disable,
+    lowmemorykiller_disable,
     kmemleak_disable,
     kmemleak_enable,
     slub_debug_enable,
     page_owner_enable,
     page_poison_enable,
     debug_pagealloc_enable,
+
+    // Kernel: lockups, panic, watchdog, RAM dump
     lockdep_enable,
     hung_task_timeout_set,
     hung_task_panic_enable,
     softlockup_panic_enable,
-    watchdog_disable,
-    watchdog_timeout_set,
-    console_level_set,
-    uart_console_disable,
-    uart_console_enable,
-    console_suspend_disable,
-    earlycon_enable,
-    uart_shell_set,
-    uart_baud_921600,
-    dyndbg_set,
-    initcall_debug_enable,
-    kernel_argument_add,
-    memory_limit_set,
-    clk_ignore_unused,
-    regulator_ignore_unused,
+    rcu_stall_panic_enable,
+    iommu_fault_panic_enable,
     panic_timeout_set,
+    panic_on_oops_disable,
     panic_on_warn_enable,
     sysrq_enable,
+    kgdb_uart_enable,
+    watchdog_disable,
+    watchdog_timeout_set,
+    watchdog_percpu_kick_enable,
     ramdump_full_enable,
     ramdump_mini_enable,
     ramdump_to_usb,
-    iommu_fault_panic_enable,
+
+    // Kernel: console
+    console_level_set,
+    uart_console_disable,
+    uart_console_enable,
+    earlycon_enable,
+    uart_shell_set,
+    uart_baud_921600,
+    console_suspend_disable,
+    log_buf_8m,
+
+    // Kernel: storage, USB, PCIe, I2C, modem
+    verity_mode_set,
+    emmc_rpm_disable,
     emmc_hs400_disable,
     emmc_clk_50mhz,
+    sd_uhs_disable,
     usb_role_set,
+    i2c0_100khz,
     modem_off,
-    emmc_rpm_disable,
 
     // CPU
     boot_core_only,
     cpu_start_mask_set<"0xf">,
+    core_ctl_disable,
     cpufreq_disable,
-    cpu_fix<2001>,
-    cpu_fix<575>,
+    cpu_fix_max,
+    cpu_fix_min,
     cpu_cap_set<575, 2001>,
-    boot_opp_max,
     iowait_boost_disable,
     walt_disable,
     schedtune_disable,
     cpuidle_disable,
     core_off_disable,
     cluster_off_disable,
-    prefetch_disable,
     cpu_clock_gating_disable,
     svs_disable,
     cpu_voltage_offset,
     cpu_throttle_disable,
     cpu_trip_set,
-    erratum_skip<"A53", 845719, "32-bit loads">,
     kpti_disable,
-    el0_32bit_disable,
 
     // DRAM
     dram_fix<1866>,
@@ -88,29 +106,24 @@ constexpr knob rows[] = {
     dram_dvfs_disable,
     dram_train_full,
     dram_train_renew,
-    dram_eye_scan_rx,
-    dram_eye_scan_tx,
-    dram_vdd2_plus_20mv<"VDD2">,
-    dram_vdd2_minus_20mv<"VDD2">,
     dram_refresh_2x,
+    dram_refresh_per_bank,
     dram_mr4_override<7>,
     dram_self_refresh_disable,
     dram_power_down_disable,
-    dram_odt_disable,
     dram_rank0_only,
     dram_test_full,
 
-    // EMI: memory controller and buses
+    // EMI: memory controller, buses, system cache
     emi_bwmon_enable,
+    emi_clock_gating_disable,
     emi_mpu_panic,
     emi_mpu_log,
     bus_hang_enable,
-    emi_clock_gating_disable,
 
     // VCORE: core rail levels
     vcore_dvfs_disable,
     vcore_fix<900>,
-    vcore_hold_boot,
     vcore_req_log,
     vcore_floor_disp,
     vcore_dram_decouple,
@@ -125,12 +138,14 @@ constexpr knob rows[] = {
     ldo_vsd33_on,
     pmic_oc_log_only,
     pwrkey_reset_disable,
-    pwrkey_reset_time<14>,
     pmic_reset_warm,
     pmic_wdt_disable,
     pmic_reg_dump,
+    pmic_boot_reason_log,
+    chg_disable,
     chg_input_500ma,
     gauge_soc_50,
+    gauge_low_shutdown_disable,
     batt_throttle_disable,
 
     // GPU
@@ -140,7 +155,6 @@ constexpr knob rows[] = {
     gpu_voltage_offset,
     gpu_disable,
     gpu_policy_always_on,
-    gpu_policy_coarse_demand,
     gpu_clock_gating_disable,
     gpu_soft_stop_disable,
     gpu_reset_dump,
@@ -159,22 +173,20 @@ constexpr knob rows[] = {
     dsi_lane_rate_set<1500>,
     dsi_clk_continuous,
     dsi_ssc_disable,
-    bl_fixed_50,
+    bl_boot_level_set,
     cabc_disable,
     disp_idle_disable,
     ovl_single_layer,
+    pq_bypass,
     disp_underrun_red,
     dsi_bist_boot,
     boot_logo_disable,
-    pq_bypass,
-
-    // HRT: hard real-time bandwidth
-    hrt_check_disable,
 
     // DPSW: power-domain switches
     dpsw_all_on,
     pd_ignore_unused,
     power_domain_on<"disp", "display">,
+    power_domain_on<"cam", "camera">,
 
     // LPM: low power
     suspend_disable,
@@ -192,20 +204,26 @@ constexpr knob rows[] = {
     sleep_count_log,
     spm_log_enable,
     bus_clock_gating_disable,
+    cam_clocks_on,
+    audio_clocks_on,
 
     // TOOL: logs, trace and bring-up
     bootloader_log_verbose,
     log_store_enable,
     boot_reason_print,
     boot_profile_enable,
+    adb_early_start,
     jtag_pins_enable,
     last_pc_print,
     etm_enable<0>,
     etf_enable,
     perf_stat_events,
     perf_paranoid_set,
+    pmu_idle_keep,
+    trace_buf_size_set,
     trace_sched_irq_boot,
-    disp_frame_trace,
+    trace_dump_on_oops,
+    thermal_log_1s,
 };
 
 }  // namespace

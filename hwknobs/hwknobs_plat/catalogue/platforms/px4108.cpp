@@ -7,8 +7,12 @@
 // Display  1 DSI link, up to 60 Hz; panels ili9882_hdp_video, nt36525b_hdp_video, hx83112_fhdp_video
 // PMIC     rails vproc1, vproc2, vcore, vgpu, vdram, vs1, vs2; LDOs vio18, vio28, vemmc33, vsd33, vusb33, vcam28,
 //          vvib, vconn18, vconn33, vrf18, vsim1, vaux18
+// Charger  linear, input limit by register
 // Storage  eMMC 5.1
 // Modem    LTE
+// Buses    USB 2 dual role, SD slot (UHS-I), I2C
+// Wi-Fi    on SDIO
+// Debug    JTAG, ETM, ETF, debug latch, bus hang detector, bus tracker, EMI bandwidth monitor
 // clang-format off
 #include "hwknobs_plat/catalogue/knobs.h"
 #include "hwknobs_plat/catalogue/table.h"
@@ -18,48 +22,63 @@ using namespace catalogue;
 namespace {
 
 constexpr knob rows[] = {
-    // Kernel debugging and behavior
+    // Kernel: arguments, modules, memory
+    kernel_argument_add,
     kaslr_disable,
     kaslr_enable,
+    initcall_debug_enable,
+    dyndbg_set,
+    clk_ignore_unused,
+    regulator_ignore_unused,
+    memory_limit_set,
+    cma_size_set,
+    zram_disable,
     kmemleak_disable,
     kmemleak_enable,
     slub_debug_enable,
     page_owner_enable,
     page_poison_enable,
     debug_pagealloc_enable,
+    cfi_permissive,
+
+    // Kernel: lockups, panic, watchdog, RAM dump
     lockdep_enable,
     hung_task_timeout_set,
     hung_task_panic_enable,
     softlockup_panic_enable,
-    watchdog_disable,
-    watchdog_timeout_set,
-    console_level_set,
-    uart_console_disable,
-    uart_console_enable,
-    console_suspend_disable,
-    earlycon_enable,
-    uart_shell_set,
-    uart_baud_921600,
-    dyndbg_set,
-    initcall_debug_enable,
-    kernel_argument_add,
-    memory_limit_set,
-    clk_ignore_unused,
-    regulator_ignore_unused,
+    rcu_stall_panic_enable,
+    iommu_fault_panic_enable,
     panic_timeout_set,
+    panic_on_oops_disable,
     panic_on_warn_enable,
     sysrq_enable,
+    kgdb_uart_enable,
+    watchdog_disable,
+    watchdog_timeout_set,
+    watchdog_percpu_kick_enable,
     ramdump_full_enable,
     ramdump_mini_enable,
     ramdump_to_usb,
-    cfi_permissive,
-    iommu_fault_panic_enable,
+
+    // Kernel: console
+    console_level_set,
+    uart_console_disable,
+    uart_console_enable,
+    earlycon_enable,
+    uart_shell_set,
+    uart_baud_921600,
+    console_suspend_disable,
+    log_buf_8m,
+
+    // Kernel: storage, USB, PCIe, I2C, modem
+    verity_mode_set,
+    emmc_rpm_disable,
     emmc_hs400_disable,
     emmc_clk_50mhz,
+    sd_uhs_disable,
     usb_role_set,
+    i2c0_100khz,
     modem_off,
-    emmc_rpm_disable,
-    verity_mode_set,
 
     // CPU
     boot_core_only,
@@ -71,14 +90,15 @@ constexpr knob rows[] = {
     cpu_fix_min,
     big_cap_set<825, 2000>,
     iowait_boost_disable,
-    eas_disable,
     walt_disable,
     schedtune_disable,
+    eas_disable,
     big_isolate<"4-7">,
     cpuidle_disable,
+    core_off_disable,
+    little_cluster_off_disable,
     big_cluster_off_disable,
     cci_fix_max,
-    prefetch_disable,
     cpu_clock_gating_disable,
     svs_disable,
     cluster_voltage_offset<"little">,
@@ -99,27 +119,29 @@ constexpr knob rows[] = {
     dram_vdd2_minus_20mv<"VDD2">,
     dram_dqs_osc_disable,
     dram_refresh_2x,
+    dram_refresh_all_bank,
     dram_mr4_override<7>,
     dram_self_refresh_disable,
     dram_power_down_disable,
     dram_odt_disable,
+    dram_dbi_disable,
     dram_rank0_only,
     dram_test_full,
 
-    // EMI: memory controller and buses
+    // EMI: memory controller, buses, system cache
     emi_bwmon_enable,
+    emi_clock_gating_disable,
     emi_mpu_panic,
+    emi_mpu_log,
     bus_hang_enable,
     bus_hang_panic,
-    emi_clock_gating_disable,
-    dramc_pmu_enable,
 
     // VCORE: core rail levels
     vcore_dvfs_disable,
     vcore_fix<825>,
-    vcore_hold_boot,
     vcore_req_log,
     vcore_floor_disp,
+    vcore_dram_decouple,
     vcore_timeout_panic,
 
     // PMIC and charging
@@ -132,12 +154,14 @@ constexpr knob rows[] = {
     ldo_vsd33_on,
     pmic_oc_log_only,
     pwrkey_reset_disable,
-    pwrkey_reset_time<14>,
     pmic_reset_warm,
     pmic_wdt_disable,
     pmic_reg_dump,
+    pmic_boot_reason_log,
+    chg_disable,
     chg_input_500ma,
     gauge_soc_50,
+    gauge_low_shutdown_disable,
     batt_throttle_disable,
 
     // GPU
@@ -147,7 +171,6 @@ constexpr knob rows[] = {
     gpu_voltage_offset,
     gpu_disable,
     gpu_policy_always_on,
-    gpu_policy_coarse_demand,
     gpu_clock_gating_disable,
     enable_gpu_acp,
     gpu_coherency_disable,
@@ -156,12 +179,14 @@ constexpr knob rows[] = {
     gpu_mmu_fault_panic,
     gpu_exception_mask_set,
     gpu_counters_enable,
+    gpu_afbc_disable,
 
     // Display
     lcm_settings,
     panel<"ili9882_hdp_video">,
     panel<"nt36525b_hdp_video">,
     panel<"hx83112_fhdp_video">,
+    panel_id_check_skip,
     esd_check_disable,
     dsi_lane_rate_set<2500>,
     dsi_clk_continuous,
@@ -170,27 +195,27 @@ constexpr knob rows[] = {
     cabc_disable,
     disp_idle_disable,
     ovl_single_layer,
+    pq_bypass,
     disp_underrun_red,
     disp_underrun_action_set,
     dsi_bist_boot,
     boot_logo_disable,
-    pq_bypass,
-
-    // HRT: hard real-time bandwidth
-    hrt_check_disable,
-    hrt_dvfs_floor_max,
 
     // DPSW: power-domain switches
     dpsw_all_on,
     pd_ignore_unused,
     power_domain_on<"disp", "display">,
+    power_domain_on<"cam", "camera">,
     dpsw_ack_panic,
 
     // LPM: low power
     suspend_disable,
+    suspend_s2idle,
     pm_print_times,
     pm_test_set,
+    dpm_watchdog_set,
     wakelock_log,
+    wake_reason_log,
     wake_mask_set,
     gic_pending_log,
     soc_idle_disable,
@@ -202,10 +227,13 @@ constexpr knob rows[] = {
     sleep_count_log,
     spm_log_enable,
     bus_clock_gating_disable,
+    cam_clocks_on,
+    audio_clocks_on,
 
     // TOOL: logs, trace and bring-up
     bootloader_log_verbose,
     log_store_enable,
+    boot_reason_print,
     boot_profile_enable,
     adb_early_start,
     jtag_pins_enable,
@@ -215,8 +243,11 @@ constexpr knob rows[] = {
     etf_enable,
     perf_stat_events,
     perf_paranoid_set,
+    pmu_idle_keep,
+    trace_buf_size_set,
     trace_sched_irq_boot,
-    disp_frame_trace,
+    trace_dump_on_oops,
+    thermal_log_1s,
 };
 
 }  // namespace

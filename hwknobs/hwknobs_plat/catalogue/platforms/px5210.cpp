@@ -2,14 +2,19 @@
 //
 // CPU      little: 6 x A55 (cpu0-5), 500 to 2000 MHz
 //          big: 2 x A76 (cpu6-7), 725 to 2200 MHz
+//          clocks set by DVFS firmware
 // GPU      Mali-G57, 2 shader cores, 350 to 950 MHz
 // DRAM     LPDDR4X, 2 channels, 4266 / 3200 / 2400 / 1600 Mbps
 // Display  1 DSI link, up to 120 Hz; panels nt36672c_fhdp_video, td4375_fhdp_video, rm692c9_fhdp_cmd
-// PMIC     rails vproc1, vproc2, vcore, vgpu, vdram, vs1, vs2, vmodem, vsram_core; LDOs vio18, vio28, vemmc33,
-//          vsd33, vusb33, vcam28, vvib, vconn18, vconn33, vrf18, vsim1, vaux18, vufs18, vefuse, vbatif28, vrf12,
-//          vtcxo22
+// PMIC     rails vproc1, vproc2, vcore, vgpu, vdram, vs1, vs2, vmodem, vsram_core; LDOs vio18, vio28, vemmc33, vsd33,
+//          vusb33, vcam28, vvib, vconn18, vconn33, vrf18, vsim1, vaux18, vufs18, vefuse, vbatif28, vrf12, vtcxo22
+// Charger  switching, current limits by register
 // Storage  UFS 2.2
 // Modem    5G
+// Buses    USB 2 dual role, SD slot (UHS-I), I2C
+// Wi-Fi    in the chip
+// Debug    JTAG, ETM, ETF, ETR, debug latch, bus hang detector, bus tracker, EMI bandwidth monitor, DRAM controller
+//          counters
 // clang-format off
 #include "hwknobs_plat/catalogue/knobs.h"
 #include "hwknobs_plat/catalogue/table.h"
@@ -19,53 +24,62 @@ using namespace catalogue;
 namespace {
 
 constexpr knob rows[] = {
-    // Kernel debugging and behavior
+    // Kernel: arguments, modules, memory
+    kernel_argument_add,
     kaslr_disable,
     kaslr_enable,
+    initcall_debug_enable,
+    dyndbg_set,
+    clk_ignore_unused,
+    regulator_ignore_unused,
+    memory_limit_set,
+    cma_size_set,
+    zram_disable,
     kmemleak_disable,
     kmemleak_enable,
     slub_debug_enable,
     page_owner_enable,
     page_poison_enable,
     debug_pagealloc_enable,
+    cfi_permissive,
+
+    // Kernel: lockups, panic, watchdog, RAM dump
     lockdep_enable,
     hung_task_timeout_set,
     hung_task_panic_enable,
     softlockup_panic_enable,
     rcu_stall_panic_enable,
-    watchdog_disable,
-    watchdog_timeout_set,
-    watchdog_percpu_kick_enable,
-    console_level_set,
-    uart_console_disable,
-    uart_console_enable,
-    log_buf_8m,
-    console_suspend_disable,
-    earlycon_enable,
-    uart_shell_set,
-    uart_baud_921600,
-    dyndbg_set,
-    initcall_debug_enable,
-    kernel_argument_add,
-    memory_limit_set,
-    clk_ignore_unused,
-    regulator_ignore_unused,
+    iommu_fault_panic_enable,
     panic_timeout_set,
     panic_on_oops_disable,
     panic_on_warn_enable,
     sysrq_enable,
+    kgdb_uart_enable,
+    watchdog_disable,
+    watchdog_timeout_set,
+    watchdog_percpu_kick_enable,
     ramdump_full_enable,
     ramdump_mini_enable,
     ramdump_to_usb,
-    cfi_permissive,
-    iommu_fault_panic_enable,
-    irq_affinity_set,
-    irq_storm_detect_enable,
-    irq_handler_warn_10ms,
+
+    // Kernel: console
+    console_level_set,
+    uart_console_disable,
+    uart_console_enable,
+    earlycon_enable,
+    uart_shell_set,
+    uart_baud_921600,
+    console_suspend_disable,
+    log_buf_8m,
+
+    // Kernel: storage, USB, PCIe, I2C, modem
+    verity_mode_set,
     ufs_gear_1,
     ufs_hibern8_disable,
-    verity_mode_set,
+    ufs_clock_gating_disable,
+    sd_uhs_disable,
     usb_role_set,
+    i2c0_100khz,
     modem_off,
 
     // CPU
@@ -76,22 +90,19 @@ constexpr knob rows[] = {
     cpufreq_disable,
     cpu_fix_max,
     cpu_fix_min,
-    cluster_fix<"big", 2200>,
     big_cap_set<725, 2200>,
-    boot_opp_max,
     cpufreq_sw_dvfs,
     iowait_boost_disable,
-    eas_disable,
     walt_disable,
     schedtune_disable,
+    eas_disable,
     misfit_disable,
     big_isolate<"6-7">,
     cpuidle_disable,
     core_off_disable,
     dsu_off_disable,
+    l3_fix_max,
     l3_powerdown_disable,
-    l3_half,
-    prefetch_disable,
     cpu_clock_gating_disable,
     cache_ecc_log,
     svs_disable,
@@ -118,25 +129,23 @@ constexpr knob rows[] = {
     dram_self_refresh_disable,
     dram_power_down_disable,
     dram_odt_disable,
-    dram_odt<60>,
     dram_dbi_disable,
     dram_rank0_only,
     dram_channel0_only,
     dram_test_full,
 
-    // EMI: memory controller and buses
+    // EMI: memory controller, buses, system cache
     emi_bwmon_enable,
+    dramc_pmu_enable,
+    emi_clock_gating_disable,
     emi_mpu_panic,
     emi_mpu_log,
     bus_hang_enable,
     bus_hang_panic,
-    emi_clock_gating_disable,
-    dramc_pmu_enable,
 
     // VCORE: core rail levels
     vcore_dvfs_disable,
     vcore_fix<725>,
-    vcore_hold_boot,
     vcore_req_log,
     vcore_floor_disp,
     vcore_dram_decouple,
@@ -147,38 +156,35 @@ constexpr knob rows[] = {
     buck_plus_25mv<"vdram">,
     buck_offset<"vcore">,
     buck_offset<"vdram">,
+    buck_offset<"vmodem">,
     buck_pwm_all,
     pmic_lp_mode_disable,
     ldo_vsd33_on,
     pmic_oc_log_only,
     pwrkey_reset_disable,
-    pwrkey_reset_time<14>,
     pmic_reset_warm,
     pmic_wdt_disable,
     pmic_reg_dump,
-    pmic_irq_log,
     pmic_boot_reason_log,
     chg_disable,
     chg_input_500ma,
     chg_current_set,
     gauge_soc_50,
+    gauge_low_shutdown_disable,
     batt_throttle_disable,
 
     // GPU
     gpu_fix<950>,
-    gpu_fix<620>,
     gpu_dvfs_disable,
     gpu_throttle_disable,
     gpu_voltage_offset,
     gpu_disable,
     gpu_policy_always_on,
-    gpu_policy_coarse_demand,
     gpu_one_core,
     gpu_clock_gating_disable,
     enable_gpu_acp,
     gpu_coherency_disable,
     gpu_soft_stop_disable,
-    gpu_jobs_serialize,
     gpu_reset_dump,
     gpu_mmu_fault_panic,
     gpu_exception_mask_set,
@@ -190,24 +196,27 @@ constexpr knob rows[] = {
     panel<"nt36672c_fhdp_video">,
     panel<"td4375_fhdp_video">,
     panel<"rm692c9_fhdp_cmd">,
+    panel_id_check_skip,
     esd_check_disable,
     refresh_fix<60>,
     refresh_fix<120>,
     dsi_lane_rate_set<2500>,
     dsi_clk_continuous,
     dsi_ssc_disable,
+    dsi_ulps_disable,
     bl_boot_level_set,
     cabc_disable,
+    aod_disable,
     disp_idle_disable,
     disp_partial_disable,
     te_ignore,
     ovl_single_layer,
+    pq_bypass,
     disp_underrun_red,
     disp_underrun_action_set,
     drm_debug_mask_set<"0x1ff">,
     dsi_bist_boot,
     boot_logo_disable,
-    pq_bypass,
 
     // HRT: hard real-time bandwidth
     hrt_check_disable,
@@ -219,6 +228,7 @@ constexpr knob rows[] = {
     dpsw_all_on,
     pd_ignore_unused,
     power_domain_on<"disp", "display">,
+    power_domain_on<"cam", "camera">,
     dpsw_ack_panic,
 
     // LPM: low power
@@ -237,11 +247,12 @@ constexpr knob rows[] = {
     idle_self_refresh_disable,
     bus_pll_keep,
     vcore_lp_disable,
-    cpu_subsys_off_disable,
     resource_req_log,
     sleep_count_log,
     spm_log_enable,
     bus_clock_gating_disable,
+    cam_clocks_on,
+    audio_clocks_on,
 
     // TOOL: logs, trace and bring-up
     bootloader_log_verbose,
@@ -253,17 +264,17 @@ constexpr knob rows[] = {
     last_pc_print,
     bus_tracker_enable,
     etm_enable<6>,
+    etf_enable,
     etr_enable,
     perf_stat_events,
     perf_paranoid_set,
     pmu_idle_keep,
-    thermal_log_1s,
-    conn_log_enable,
+    dsu_pmu_enable,
     trace_buf_size_set,
     trace_sched_irq_boot,
     trace_dump_on_oops,
-    disp_frame_trace,
-    lpm_trace_boot,
+    thermal_log_1s,
+    conn_log_enable,
 };
 
 }  // namespace

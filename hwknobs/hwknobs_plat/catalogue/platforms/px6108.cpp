@@ -6,9 +6,13 @@
 // DRAM     LPDDR4X, 2 channels, 4266 / 3200 / 2400 / 1600 Mbps
 // Display  1 DSI link, up to 90 Hz; panels ili9883_hdp_video, nt36672e_fhdp_video, ft8725_fhdp_video
 // PMIC     rails vproc1, vproc2, vcore, vgpu, vdram, vs1, vs2, vmodem; LDOs vio18, vio28, vemmc33, vsd33, vusb33,
-//          vcam28, vvib, vconn18, vconn33, vrf18, vsim1, vaux18, vufs18
+//          vcam28, vvib, vconn18, vconn33, vrf18, vsim1, vaux18, vufs18; lockout and shutdown levels fixed
+// Charger  switching, current limits by register
 // Storage  eMMC 5.1
 // Modem    5G
+// Buses    USB 2 dual role, SD slot (UHS-I), I2C
+// Wi-Fi    in the chip
+// Debug    JTAG, ETM, ETF, debug latch, bus hang detector, bus tracker, EMI bandwidth monitor
 // clang-format off
 #include "hwknobs_plat/catalogue/knobs.h"
 #include "hwknobs_plat/catalogue/table.h"
@@ -18,9 +22,19 @@ using namespace catalogue;
 namespace {
 
 constexpr row rows[] = {
-    // Kernel debugging and behavior
+    // Kernel: arguments, modules, memory
+    {215, kernel_argument_add},
     {1, kaslr_disable},
     {2, kaslr_enable},
+    {23, initcall_debug_enable},
+    {22, dyndbg_set},
+    {218, module_blocklist_set},
+    {24, fw_devlink_set},
+    {26, clk_ignore_unused},
+    {27, regulator_ignore_unused},
+    {217, memory_limit_set},
+    {25, cma_size_set},
+    {30, zram_disable},
     {3, kmemleak_disable},
     {4, kmemleak_enable},
     {6, slub_debug_enable},
@@ -28,48 +42,49 @@ constexpr row rows[] = {
     {8, page_poison_enable},
     {9, debug_pagealloc_enable},
     {10, init_on_alloc_disable},
+    {38, cfi_permissive},
+
+    // Kernel: lockups, panic, watchdog, RAM dump
     {11, lockdep_enable},
     {12, hung_task_timeout_set},
     {13, hung_task_panic_enable},
     {14, softlockup_panic_enable},
     {15, rcu_stall_panic_enable},
-    {16, watchdog_disable},
-    {84, watchdog_timeout_set},
-    {17, watchdog_percpu_kick_enable},
-    {18, console_level_set},
-    {19, uart_console_disable},
-    {20, uart_console_enable},
-    {21, log_buf_8m},
-    {199, console_suspend_disable},
-    {221, earlycon_enable},
-    {222, uart_shell_set},
-    {223, uart_baud_921600},
-    {22, dyndbg_set},
-    {23, initcall_debug_enable},
-    {215, kernel_argument_add},
-    {217, memory_limit_set},
-    {218, module_blocklist_set},
-    {24, fw_devlink_set},
-    {26, clk_ignore_unused},
-    {27, regulator_ignore_unused},
+    {42, pseudo_nmi_enable},
+    {40, iommu_fault_panic_enable},
     {31, panic_timeout_set},
+    {39, panic_on_oops_disable},
     {32, panic_on_warn_enable},
     {33, panic_print_set<"0x3f">},
     {34, sysrq_enable},
+    {41, kgdb_uart_enable},
+    {16, watchdog_disable},
+    {84, watchdog_timeout_set},
+    {17, watchdog_percpu_kick_enable},
     {35, ramdump_full_enable},
     {36, ramdump_mini_enable},
     {37, ramdump_to_usb},
-    {38, cfi_permissive},
-    {40, iommu_fault_panic_enable},
-    {41, irq_handler_warn_10ms},
-    {42, pseudo_nmi_enable},
+    {53, pstore_all_reasons},
+
+    // Kernel: console
+    {18, console_level_set},
+    {19, uart_console_disable},
+    {20, uart_console_enable},
+    {221, earlycon_enable},
+    {222, uart_shell_set},
+    {223, uart_baud_921600},
+    {199, console_suspend_disable},
+    {21, log_buf_8m},
+
+    // Kernel: storage, USB, PCIe, I2C, modem
+    {83, verity_mode_set},
+    {214, emmc_rpm_disable},
     {43, emmc_hs400_disable},
     {44, emmc_clk_50mhz},
-    {52, usb_role_set},
-    {145, modem_off},
-    {214, emmc_rpm_disable},
-    {83, verity_mode_set},
     {80, sd_uhs_disable},
+    {52, usb_role_set},
+    {55, i2c0_100khz},
+    {145, modem_off},
 
     // CPU
     {45, boot_core_only},
@@ -78,23 +93,18 @@ constexpr row rows[] = {
     {49, cpufreq_disable},
     {50, cpu_fix_max},
     {51, cpu_fix_min},
-    {53, cluster_fix<"big", 2200>},
     {54, big_cap_set<950, 2200>},
-    {56, boot_opp_max},
-    {57, cpufreq_sw_dvfs},
     {58, iowait_boost_disable},
     {59, eas_disable},
-    {60, uclamp_disable},
     {61, misfit_disable},
+    {60, uclamp_disable},
     {62, big_isolate<"6-7">},
-    {63, sched_feature_set},
     {64, cpuidle_disable},
+    {67, idle_governor_set},
     {65, core_off_disable},
     {66, dsu_off_disable},
-    {67, idle_governor_set},
+    {56, l3_fix_max},
     {68, l3_powerdown_disable},
-    {69, l3_half},
-    {70, prefetch_disable},
     {71, cpu_clock_gating_disable},
     {72, cache_ecc_log},
     {73, svs_disable},
@@ -122,26 +132,23 @@ constexpr row rows[] = {
     {96, dram_self_refresh_disable},
     {97, dram_power_down_disable},
     {98, dram_odt_disable},
-    {99, dram_odt<60>},
     {100, dram_dbi_disable},
     {101, dram_rank0_only},
     {102, dram_channel0_only},
     {103, dram_test_full},
 
-    // EMI: memory controller and buses
+    // EMI: memory controller, buses, system cache
     {104, emi_bwmon_enable},
-    {105, emi_bwmon_window_set},
+    {110, emi_clock_gating_disable},
     {106, emi_mpu_panic},
     {107, emi_mpu_log},
     {108, bus_hang_enable},
     {109, bus_hang_panic},
-    {110, emi_clock_gating_disable},
-    {111, dramc_pmu_enable},
 
     // VCORE: core rail levels
     {112, vcore_dvfs_disable},
     {113, vcore_fix<725>},
-    {114, vcore_hold_boot},
+    {57, vcore_fix<550>},
     {115, vcore_req_log},
     {116, vcore_floor_set},
     {117, vcore_floor_disp},
@@ -153,21 +160,24 @@ constexpr row rows[] = {
     {122, buck_plus_25mv<"vdram">},
     {123, buck_offset<"vcore">},
     {124, buck_offset<"vdram">},
+    {63, buck_offset<"vmodem">},
     {125, buck_pwm_all},
     {127, pmic_lp_mode_disable},
     {128, ldo_vsd33_on},
     {129, pmic_oc_log_only},
     {130, pwrkey_reset_disable},
-    {131, pwrkey_reset_time<14>},
     {132, pmic_reset_warm},
     {133, pmic_wdt_disable},
     {134, pmic_reg_dump},
-    {135, pmic_irq_log},
+    {69, pmic_reg_print},
+    {70, pmic_boot_reason_log},
     {136, chg_disable},
     {137, chg_input_500ma},
     {138, chg_current_set},
+    {75, chg_jeita_disable},
     {139, gauge_soc_50},
     {141, gauge_temp_set},
+    {86, gauge_low_shutdown_disable},
     {142, batt_throttle_disable},
 
     // GPU
@@ -178,13 +188,11 @@ constexpr row rows[] = {
     {148, gpu_voltage_offset},
     {149, gpu_disable},
     {150, gpu_policy_always_on},
-    {151, gpu_policy_coarse_demand},
     {144, gpu_policy_adaptive_set},
     {152, gpu_clock_gating_disable},
     {153, enable_gpu_acp},
     {154, gpu_coherency_disable},
     {155, gpu_soft_stop_disable},
-    {156, gpu_jobs_serialize},
     {157, gpu_reset_dump},
     {158, gpu_mmu_fault_panic},
     {159, gpu_exception_mask_set},
@@ -196,6 +204,7 @@ constexpr row rows[] = {
     {164, panel<"ili9883_hdp_video">},
     {165, panel<"nt36672e_fhdp_video">},
     {166, panel<"ft8725_fhdp_video">},
+    {99, panel_id_check_skip},
     {167, esd_check_disable},
     {168, refresh_fix<60>},
     {169, refresh_fix<90>},
@@ -206,19 +215,12 @@ constexpr row rows[] = {
     {175, cabc_disable},
     {176, disp_idle_disable},
     {178, ovl_single_layer},
+    {185, pq_bypass},
     {179, disp_underrun_red},
     {180, disp_underrun_action_set},
     {182, drm_debug_mask_set<"0x3ff">},
     {183, dsi_bist_boot},
     {184, boot_logo_disable},
-    {185, pq_bypass},
-
-    // HRT: hard real-time bandwidth
-    {186, hrt_check_disable},
-    {187, hrt_dvfs_floor_max},
-    {188, hrt_cam_floor_max},
-    {190, hrt_over_log},
-    {191, hrt_margin_set},
 
     // DPSW: power-domain switches
     {192, dpsw_all_on},
@@ -230,9 +232,13 @@ constexpr row rows[] = {
 
     // LPM: low power
     {198, suspend_disable},
+    {105, suspend_s2idle},
     {200, pm_print_times},
+    {111, pm_debug_messages},
     {201, pm_test_set},
+    {114, dpm_watchdog_set},
     {202, wakelock_log},
+    {131, wake_reason_log},
     {203, wake_mask_set},
     {204, gic_pending_log},
     {205, soc_idle_disable},
@@ -245,10 +251,12 @@ constexpr row rows[] = {
     {212, spm_log_enable},
     {213, bus_clock_gating_disable},
     {126, cam_clocks_on},
+    {135, audio_clocks_on},
 
     // HYP: hypervisor and secure world
     {216, hyp_disable},
     {219, el2_uart_enable},
+    {140, hyp_panic_halt},
     {220, el3_log_set},
 
     // TOOL: logs, trace and bring-up
@@ -264,13 +272,13 @@ constexpr row rows[] = {
     {234, etf_enable},
     {236, perf_stat_events},
     {237, perf_paranoid_set},
+    {151, pmu_idle_keep},
     {238, dsu_pmu_enable},
-    {239, thermal_log_1s},
-    {240, conn_log_enable},
+    {156, trace_buf_size_set},
     {28, trace_sched_irq_boot},
     {29, trace_dump_on_oops},
-    {160, gpu_job_trace},
-    {181, disp_frame_trace},
+    {239, thermal_log_1s},
+    {240, conn_log_enable},
 };
 
 }  // namespace

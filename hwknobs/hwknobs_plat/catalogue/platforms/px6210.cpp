@@ -2,13 +2,19 @@
 //
 // CPU      little: 6 x A55 (cpu0-5), 500 to 2000 MHz
 //          big: 2 x A78 (cpu6-7), 725 to 2400 MHz
+//          clocks set by DVFS firmware
 // GPU      Mali-G68, 4 shader cores, 350 to 900 MHz
-// DRAM     LPDDR5, 2 channels, 5500 / 4266 / 3200 / 2400 / 1600 Mbps
+// DRAM     LPDDR5, 2 channels, 5500 / 4266 / 3200 / 2400 / 1600 Mbps; system level cache
 // Display  1 DSI link, up to 120 Hz; panels nt36672e_fhdp_video, td4377_fhdp_video, rm692h5_fhdp_cmd
 // PMIC     rails vproc1, vproc2, vcore, vmodem, vgpu, vdram1, vdram2, vs1, vs2; LDOs vio18, vio28, vemmc33, vsd33,
 //          vusb33, vcam28, vvib, vconn18, vconn33, vrf18, vsim1, vaux18, vufs18, vefuse, vbatif28, vrf12, vtcxo22
+// Charger  switching, current limits by register
 // Storage  UFS 2.2
 // Modem    5G
+// Buses    USB 2 dual role, SD slot (UHS-I), I2C
+// Wi-Fi    in the chip
+// Debug    JTAG, ETM, ETF, ETR, debug latch, bus hang detector, bus tracker, EMI bandwidth monitor, DRAM controller
+//          counters
 // clang-format off
 #include "hwknobs_plat/catalogue/knobs.h"
 #include "hwknobs_plat/catalogue/table.h"
@@ -18,9 +24,19 @@ using namespace catalogue;
 namespace {
 
 constexpr row rows[] = {
-    // Kernel debugging and behavior
+    // Kernel: arguments, modules, memory
+    {233, kernel_argument_add},
     {1, kaslr_disable},
     {2, kaslr_enable},
+    {24, initcall_debug_enable},
+    {23, dyndbg_set},
+    {236, module_blocklist_set},
+    {25, fw_devlink_set},
+    {26, clk_ignore_unused},
+    {27, regulator_ignore_unused},
+    {235, memory_limit_set},
+    {16, cma_size_set},
+    {30, zram_disable},
     {3, kmemleak_disable},
     {4, kmemleak_enable},
     {6, slub_debug_enable},
@@ -28,48 +44,49 @@ constexpr row rows[] = {
     {8, page_poison_enable},
     {9, debug_pagealloc_enable},
     {10, init_on_alloc_disable},
+    {40, cfi_permissive},
+
+    // Kernel: lockups, panic, watchdog, RAM dump
     {11, lockdep_enable},
     {12, hung_task_timeout_set},
     {13, hung_task_panic_enable},
     {14, softlockup_panic_enable},
     {15, rcu_stall_panic_enable},
-    {17, watchdog_disable},
-    {86, watchdog_timeout_set},
-    {18, watchdog_percpu_kick_enable},
-    {19, console_level_set},
-    {20, uart_console_disable},
-    {21, uart_console_enable},
-    {22, log_buf_8m},
-    {216, console_suspend_disable},
-    {239, earlycon_enable},
-    {240, uart_shell_set},
-    {241, uart_baud_921600},
-    {23, dyndbg_set},
-    {24, initcall_debug_enable},
-    {233, kernel_argument_add},
-    {235, memory_limit_set},
-    {236, module_blocklist_set},
-    {25, fw_devlink_set},
-    {26, clk_ignore_unused},
-    {27, regulator_ignore_unused},
+    {43, pseudo_nmi_enable},
+    {41, iommu_fault_panic_enable},
     {31, panic_timeout_set},
     {32, panic_on_oops_disable},
     {33, panic_on_warn_enable},
     {34, panic_print_set<"0x3f">},
     {35, sysrq_enable},
+    {39, kgdb_uart_enable},
+    {17, watchdog_disable},
+    {86, watchdog_timeout_set},
+    {18, watchdog_percpu_kick_enable},
     {36, ramdump_full_enable},
     {37, ramdump_mini_enable},
     {38, ramdump_to_usb},
-    {39, pstore_console_1m},
-    {40, cfi_permissive},
-    {41, iommu_fault_panic_enable},
-    {42, irq_handler_warn_10ms},
-    {43, pseudo_nmi_enable},
+    {42, pstore_all_reasons},
+
+    // Kernel: console
+    {19, console_level_set},
+    {20, uart_console_disable},
+    {21, uart_console_enable},
+    {239, earlycon_enable},
+    {240, uart_shell_set},
+    {241, uart_baud_921600},
+    {216, console_suspend_disable},
+    {22, log_buf_8m},
+
+    // Kernel: storage, USB, PCIe, I2C, modem
+    {85, verity_mode_set},
     {44, ufs_gear_1},
     {45, ufs_hibern8_disable},
-    {85, verity_mode_set},
+    {55, ufs_clock_gating_disable},
+    {57, ufs_write_booster_disable},
     {82, sd_uhs_disable},
     {54, usb_role_set},
+    {64, i2c0_100khz},
     {155, modem_off},
 
     // CPU
@@ -79,24 +96,19 @@ constexpr row rows[] = {
     {51, cpufreq_disable},
     {52, cpu_fix_max},
     {53, cpu_fix_min},
-    {55, cluster_fix<"big", 2400>},
     {56, big_cap_set<725, 2400>},
-    {57, boot_opp_max},
     {58, cpufreq_sw_dvfs},
     {59, iowait_boost_disable},
     {60, eas_disable},
-    {61, uclamp_disable},
     {62, misfit_disable},
+    {61, uclamp_disable},
     {63, big_isolate<"6-7">},
-    {65, sched_feature_set},
     {66, cpuidle_disable},
+    {69, idle_governor_set},
     {67, core_off_disable},
     {68, dsu_off_disable},
-    {69, idle_governor_set},
     {70, l3_fix_max},
     {71, l3_powerdown_disable},
-    {72, l3_half},
-    {73, prefetch_disable},
     {74, cpu_clock_gating_disable},
     {75, cache_ecc_log},
     {76, svs_disable},
@@ -118,34 +130,35 @@ constexpr row rows[] = {
     {92, dram_vdd2_plus_20mv<"VDD2H">},
     {156, dram_vdd2_minus_20mv<"VDD2H">},
     {93, dram_wck_osc_disable},
+    {100, dram_wck_always_on},
     {94, dram_refresh_2x},
     {95, dram_refresh_all_bank},
     {96, dram_mr4_override<31>},
     {97, dram_rfm_disable},
     {98, dram_self_refresh_disable},
     {99, dram_power_down_disable},
-    {100, dram_wck_always_on},
     {101, dram_odt_disable},
     {102, dram_dbi_disable},
     {104, dram_link_ecc_disable},
     {105, dram_rank0_only},
+    {65, dram_channel0_only},
     {106, dram_test_full},
 
-    // EMI: memory controller and buses
+    // EMI: memory controller, buses, system cache
     {108, emi_bwmon_enable},
+    {114, dramc_pmu_enable},
+    {113, emi_clock_gating_disable},
     {109, emi_mpu_panic},
     {110, emi_mpu_log},
     {111, bus_hang_enable},
     {112, bus_hang_panic},
-    {113, emi_clock_gating_disable},
-    {114, dramc_pmu_enable},
     {115, slc_disable},
     {116, slc_gpu_ways_set},
 
     // VCORE: core rail levels
     {117, vcore_dvfs_disable},
     {118, vcore_fix<725>},
-    {119, vcore_hold_boot},
+    {72, vcore_fix<550>},
     {120, vcore_req_log},
     {121, vcore_floor_set},
     {122, vcore_floor_disp},
@@ -155,24 +168,30 @@ constexpr row rows[] = {
     // PMIC and charging
     {126, buck_plus_25mv<"vcore">},
     {128, buck_plus_25mv<"vdram1">},
+    {73, buck_plus_25mv<"vdram2">},
     {129, buck_offset<"vcore">},
+    {103, buck_offset<"vmodem">},
     {130, buck_offset<"vdram1">},
+    {107, buck_offset<"vdram2">},
     {131, buck_pwm_all},
     {133, pmic_lp_mode_disable},
     {134, ldo_vsd33_on},
     {135, pmic_oc_log_only},
+    {119, pmic_uvlo_2600mv},
+    {127, pmic_thermal_shutdown_disable},
     {136, pwrkey_reset_disable},
-    {137, pwrkey_reset_time<14>},
     {138, pmic_reset_warm},
     {140, pmic_wdt_disable},
     {141, pmic_reg_dump},
-    {143, pmic_irq_log},
+    {137, pmic_reg_print},
     {144, pmic_boot_reason_log},
     {145, chg_disable},
     {146, chg_input_500ma},
     {147, chg_current_set},
+    {139, chg_jeita_disable},
     {148, gauge_soc_50},
     {151, gauge_temp_set},
+    {142, gauge_low_shutdown_disable},
     {152, batt_throttle_disable},
 
     // GPU
@@ -184,14 +203,12 @@ constexpr row rows[] = {
     {159, gpu_avs_disable},
     {160, gpu_disable},
     {161, gpu_policy_always_on},
-    {162, gpu_policy_coarse_demand},
     {154, gpu_policy_adaptive_set},
     {163, gpu_one_core},
     {164, gpu_clock_gating_disable},
     {166, enable_gpu_acp},
     {167, gpu_coherency_disable},
     {168, gpu_soft_stop_disable},
-    {169, gpu_jobs_serialize},
     {170, gpu_reset_dump},
     {172, gpu_mmu_fault_panic},
     {173, gpu_exception_mask_set},
@@ -203,24 +220,27 @@ constexpr row rows[] = {
     {178, panel<"nt36672e_fhdp_video">},
     {179, panel<"td4377_fhdp_video">},
     {180, panel<"rm692h5_fhdp_cmd">},
+    {143, panel_id_check_skip},
     {181, esd_check_disable},
     {182, refresh_fix<60>},
     {183, refresh_fix<120>},
     {185, dsi_lane_rate_set<2500>},
     {187, dsi_clk_continuous},
     {188, dsi_ssc_disable},
+    {149, dsi_ulps_disable},
     {189, bl_boot_level_set},
     {190, cabc_disable},
+    {150, aod_disable},
     {191, disp_idle_disable},
     {192, disp_partial_disable},
     {193, te_ignore},
     {195, ovl_single_layer},
+    {202, pq_bypass},
     {196, disp_underrun_red},
     {197, disp_underrun_action_set},
     {199, drm_debug_mask_set<"0x3ff">},
     {200, dsi_bist_boot},
     {201, boot_logo_disable},
-    {202, pq_bypass},
 
     // HRT: hard real-time bandwidth
     {203, hrt_check_disable},
@@ -239,7 +259,9 @@ constexpr row rows[] = {
 
     // LPM: low power
     {215, suspend_disable},
+    {162, suspend_s2idle},
     {217, pm_print_times},
+    {165, pm_debug_messages},
     {218, pm_test_set},
     {219, dpm_watchdog_set},
     {220, wakelock_log},
@@ -255,12 +277,13 @@ constexpr row rows[] = {
     {230, sleep_count_log},
     {231, spm_log_enable},
     {232, bus_clock_gating_disable},
-    {125, audio_clocks_on},
     {132, cam_clocks_on},
+    {125, audio_clocks_on},
 
     // HYP: hypervisor and secure world
     {234, hyp_disable},
     {237, el2_uart_enable},
+    {169, hyp_panic_halt},
     {238, el3_log_set},
 
     // TOOL: logs, trace and bring-up
@@ -273,17 +296,17 @@ constexpr row rows[] = {
     {249, last_pc_print},
     {250, bus_tracker_enable},
     {252, etm_enable<6>},
+    {171, etf_enable},
     {253, etr_enable},
     {254, perf_stat_events},
     {255, perf_paranoid_set},
     {256, pmu_idle_keep},
     {257, dsu_pmu_enable},
-    {258, thermal_log_1s},
-    {259, conn_log_enable},
+    {174, trace_buf_size_set},
     {28, trace_sched_irq_boot},
     {29, trace_dump_on_oops},
-    {174, gpu_job_trace},
-    {198, disp_frame_trace},
+    {258, thermal_log_1s},
+    {259, conn_log_enable},
 };
 
 }  // namespace

@@ -2,14 +2,20 @@
 //
 // CPU      little: 4 x A55 (cpu0-3), 500 to 2000 MHz
 //          big: 4 x A78 (cpu4-7), 750 to 2500 MHz
+//          clocks set by DVFS firmware
 // GPU      Mali-G610, 3 shader cores, 380 to 950 MHz
-// DRAM     LPDDR5, 2 channels, 6400 / 5500 / 4266 / 3200 / 1600 Mbps
+// DRAM     LPDDR5, 2 channels, 6400 / 5500 / 4266 / 3200 / 1600 Mbps; system level cache
 // Display  1 DSI link, up to 120 Hz; panels nt36672e_fhdp_video, nt37705_fhdp_cmd, rm692k1_fhdp_cmd
-// PMIC     rails vproc1, vproc2, vcore, vmodem, vgpu, vdram1, vdram2, vs1, vs2, vsram_core; LDOs vio18, vio28,
-//          vemmc33, vsd33, vusb33, vcam28, vvib, vconn18, vconn33, vrf18, vsim1, vaux18, vufs18, vefuse, vbatif28,
-//          vrf12, vtcxo22
+// PMIC     on SPMI; rails vproc1, vproc2, vcore, vmodem, vgpu, vdram1, vdram2, vs1, vs2, vsram_core; LDOs vio18,
+//          vio28, vemmc33, vsd33, vusb33, vcam28, vvib, vconn18, vconn33, vrf18, vsim1, vaux18, vufs18, vefuse,
+//          vbatif28, vrf12, vtcxo22
+// Charger  switching, current limits by register
 // Storage  UFS 3.1
 // Modem    5G
+// Buses    USB 3 dual role, SD slot (UHS-I), I2C
+// Wi-Fi    in the chip
+// Debug    JTAG, ETM, ETF, ETR, debug latch, bus hang detector, bus tracker, EMI bandwidth monitor, DRAM controller
+//          counters
 // clang-format off
 #include "hwknobs_plat/catalogue/knobs.h"
 #include "hwknobs_plat/catalogue/table.h"
@@ -19,9 +25,19 @@ using namespace catalogue;
 namespace {
 
 constexpr row rows[] = {
-    // Kernel debugging and behavior
+    // Kernel: arguments, modules, memory
+    {59, kernel_argument_add},
     {1, kaslr_disable},
     {2, kaslr_enable},
+    {25, initcall_debug_enable},
+    {24, dyndbg_set},
+    {136, module_blocklist_set},
+    {27, fw_devlink_set},
+    {28, clk_ignore_unused},
+    {30, regulator_ignore_unused},
+    {163, memory_limit_set},
+    {15, cma_size_set},
+    {26, zram_disable},
     {3, kmemleak_disable},
     {4, kmemleak_enable},
     {5, kfence_interval_set},
@@ -30,50 +46,51 @@ constexpr row rows[] = {
     {8, page_poison_enable},
     {9, debug_pagealloc_enable},
     {10, init_on_alloc_disable},
+    {44, cfi_permissive},
+
+    // Kernel: lockups, panic, watchdog, RAM dump
     {11, lockdep_enable},
     {12, hung_task_timeout_set},
     {13, hung_task_panic_enable},
     {14, softlockup_panic_enable},
     {16, rcu_stall_panic_enable},
-    {17, watchdog_disable},
-    {89, watchdog_timeout_set},
-    {18, watchdog_percpu_kick_enable},
-    {19, console_level_set},
-    {20, uart_console_disable},
-    {21, uart_console_enable},
-    {22, log_buf_8m},
-    {225, console_suspend_disable},
-    {252, earlycon_enable},
-    {253, uart_shell_set},
-    {254, uart_baud_921600},
-    {23, hash_pointers_disable},
-    {24, dyndbg_set},
-    {25, initcall_debug_enable},
-    {59, kernel_argument_add},
-    {136, module_blocklist_set},
-    {163, memory_limit_set},
-    {27, fw_devlink_set},
-    {28, clk_ignore_unused},
-    {30, regulator_ignore_unused},
+    {48, pseudo_nmi_enable},
+    {45, iommu_fault_panic_enable},
     {34, panic_timeout_set},
     {35, panic_on_oops_disable},
     {36, panic_on_warn_enable},
     {37, panic_print_set<"0x3f">},
+    {23, hash_pointers_disable},
     {38, sysrq_enable},
+    {29, kgdb_uart_enable},
+    {17, watchdog_disable},
+    {89, watchdog_timeout_set},
+    {18, watchdog_percpu_kick_enable},
     {40, ramdump_full_enable},
     {41, ramdump_mini_enable},
     {42, ramdump_to_usb},
     {43, pstore_all_reasons},
-    {44, cfi_permissive},
-    {45, iommu_fault_panic_enable},
-    {46, irq_storm_detect_enable},
-    {47, irq_handler_warn_10ms},
-    {48, pseudo_nmi_enable},
+
+    // Kernel: console
+    {19, console_level_set},
+    {20, uart_console_disable},
+    {21, uart_console_enable},
+    {252, earlycon_enable},
+    {253, uart_shell_set},
+    {254, uart_baud_921600},
+    {225, console_suspend_disable},
+    {22, log_buf_8m},
+
+    // Kernel: storage, USB, PCIe, I2C, modem
+    {142, verity_mode_set},
     {49, ufs_gear_1},
     {50, ufs_hibern8_disable},
-    {142, verity_mode_set},
+    {39, ufs_clock_gating_disable},
+    {46, ufs_write_booster_disable},
     {53, sd_uhs_disable},
     {94, usb_role_set},
+    {47, usb_high_speed},
+    {60, i2c0_100khz},
     {93, modem_off},
 
     // CPU
@@ -83,25 +100,20 @@ constexpr row rows[] = {
     {56, cpufreq_disable},
     {57, cpu_fix_max},
     {58, cpu_fix_min},
-    {60, cluster_fix<"big", 2500>},
     {61, big_cap_set<750, 2500>},
-    {62, boot_opp_max},
     {64, cpufreq_sw_dvfs},
     {65, iowait_boost_disable},
     {66, eas_disable},
-    {67, pelt_halflife_8ms},
-    {68, uclamp_disable},
     {69, misfit_disable},
+    {68, uclamp_disable},
+    {67, pelt_halflife_8ms},
     {70, big_isolate<"4-7">},
-    {71, sched_feature_set},
     {72, cpuidle_disable},
+    {75, idle_governor_set},
     {73, core_off_disable},
     {74, dsu_off_disable},
-    {75, idle_governor_set},
     {76, l3_fix_max},
     {77, l3_powerdown_disable},
-    {79, l3_half},
-    {80, prefetch_disable},
     {81, cpu_clock_gating_disable},
     {82, cache_ecc_log},
     {83, svs_disable},
@@ -110,7 +122,6 @@ constexpr row rows[] = {
     {86, cpu_throttle_disable},
     {87, cpu_trip_set},
     {88, mitigations_off},
-    {90, lse_disable},
 
     // DRAM
     {91, dram_fix<6400>},
@@ -124,13 +135,13 @@ constexpr row rows[] = {
     {100, dram_vdd2_plus_20mv<"VDD2H">},
     {164, dram_vdd2_minus_20mv<"VDD2H">},
     {102, dram_wck_osc_disable},
+    {109, dram_wck_always_on},
     {103, dram_refresh_2x},
     {104, dram_refresh_all_bank},
     {105, dram_mr4_override<31>},
     {106, dram_rfm_disable},
     {107, dram_self_refresh_disable},
     {108, dram_power_down_disable},
-    {109, dram_wck_always_on},
     {110, dram_odt_disable},
     {111, dram_dbi_disable},
     {112, dram_link_ecc_disable},
@@ -138,14 +149,14 @@ constexpr row rows[] = {
     {114, dram_channel0_only},
     {115, dram_test_full},
 
-    // EMI: memory controller and buses
+    // EMI: memory controller, buses, system cache
     {116, emi_bwmon_enable},
+    {122, dramc_pmu_enable},
+    {121, emi_clock_gating_disable},
     {117, emi_mpu_panic},
     {118, emi_mpu_log},
     {119, bus_hang_enable},
     {120, bus_hang_panic},
-    {121, emi_clock_gating_disable},
-    {122, dramc_pmu_enable},
     {123, slc_disable},
     {124, slc_gpu_ways_set},
 
@@ -153,7 +164,6 @@ constexpr row rows[] = {
     {125, vcore_dvfs_disable},
     {126, vcore_fix<725>},
     {127, vcore_fix<550>},
-    {128, vcore_hold_boot},
     {129, vcore_req_log},
     {131, vcore_floor_set},
     {132, vcore_floor_disp},
@@ -163,22 +173,28 @@ constexpr row rows[] = {
     // PMIC and charging
     {137, buck_plus_25mv<"vcore">},
     {138, buck_plus_25mv<"vdram1">},
+    {62, buck_plus_25mv<"vdram2">},
     {139, buck_offset<"vcore">},
+    {63, buck_offset<"vmodem">},
     {140, buck_offset<"vdram1">},
+    {71, buck_offset<"vdram2">},
     {141, buck_pwm_all},
     {143, pmic_lp_mode_disable},
     {144, ldo_vsd33_on},
     {145, pmic_oc_log_only},
+    {78, pmic_uvlo_2600mv},
+    {79, pmic_thermal_shutdown_disable},
     {146, pwrkey_reset_disable},
-    {147, pwrkey_reset_time<14>},
     {148, pmic_reset_warm},
     {149, pmic_wdt_disable},
     {150, pmic_reg_dump},
-    {151, pmic_irq_log},
+    {80, pmic_reg_print},
     {152, pmic_boot_reason_log},
+    {90, spmi_parity_panic},
     {153, chg_disable},
     {154, chg_input_500ma},
     {155, chg_current_set},
+    {101, chg_jeita_disable},
     {157, gauge_soc_50},
     {158, gauge_temp_set},
     {159, gauge_low_shutdown_disable},
@@ -190,10 +206,11 @@ constexpr row rows[] = {
     {166, gpu_dvfs_disable},
     {165, gpu_throttle_disable},
     {167, gpu_voltage_offset},
+    {128, gpu_speed_bin_ignore},
     {168, gpu_avs_disable},
     {169, gpu_disable},
+    {130, gpu_power_on_from_boot},
     {170, gpu_policy_always_on},
-    {171, gpu_policy_coarse_demand},
     {162, gpu_policy_adaptive_set},
     {172, gpu_one_core},
     {173, gpu_clock_gating_disable},
@@ -201,6 +218,7 @@ constexpr row rows[] = {
     {175, enable_gpu_acp},
     {176, gpu_coherency_disable},
     {177, gpu_csf_fw_timeout_set},
+    {134, gpu_csf_progress_disable},
     {178, gpu_csf_fw_core_dump},
     {179, gpu_reset_dump},
     {180, gpu_mmu_fault_panic},
@@ -213,25 +231,27 @@ constexpr row rows[] = {
     {185, panel<"nt36672e_fhdp_video">},
     {186, panel<"nt37705_fhdp_cmd">},
     {187, panel<"rm692k1_fhdp_cmd">},
+    {147, panel_id_check_skip},
     {188, esd_check_disable},
     {189, refresh_fix<60>},
     {190, refresh_fix<120>},
     {191, dsi_lane_rate_set<2500>},
     {192, dsi_clk_continuous},
     {193, dsi_ssc_disable},
-    {196, bl_fixed_50},
+    {151, dsi_ulps_disable},
+    {156, bl_boot_level_set},
     {199, cabc_disable},
+    {203, aod_disable},
     {200, disp_idle_disable},
     {201, disp_partial_disable},
     {202, te_ignore},
-    {203, aod_disable},
     {205, ovl_single_layer},
+    {212, pq_bypass},
     {206, disp_underrun_red},
     {207, disp_underrun_action_set},
     {209, drm_debug_mask_set<"0x3ff">},
     {210, dsi_bist_boot},
     {211, boot_logo_disable},
-    {212, pq_bypass},
 
     // HRT: hard real-time bandwidth
     {213, hrt_check_disable},
@@ -250,6 +270,7 @@ constexpr row rows[] = {
 
     // LPM: low power
     {224, suspend_disable},
+    {171, suspend_s2idle},
     {226, pm_print_times},
     {227, pm_debug_messages},
     {228, pm_test_set},
@@ -267,6 +288,8 @@ constexpr row rows[] = {
     {240, sleep_count_log},
     {241, spm_log_enable},
     {242, bus_clock_gating_disable},
+    {195, cam_clocks_on},
+    {196, audio_clocks_on},
 
     // HYP: hypervisor and secure world
     {243, pkvm_enable},
@@ -275,6 +298,7 @@ constexpr row rows[] = {
     {247, stage2_fault_log},
     {248, hyp_iommu_disable},
     {249, el2_uart_enable},
+    {197, hyp_panic_halt},
     {251, el3_log_set},
 
     // TOOL: logs, trace and bring-up
@@ -283,7 +307,6 @@ constexpr row rows[] = {
     {259, boot_reason_print},
     {260, boot_profile_enable},
     {261, adb_early_start},
-    {262, usb_dl_wait_30s},
     {263, jtag_pins_enable},
     {264, last_pc_print},
     {265, bus_tracker_enable},
@@ -294,12 +317,11 @@ constexpr row rows[] = {
     {270, perf_paranoid_set},
     {271, pmu_idle_keep},
     {272, dsu_pmu_enable},
-    {273, thermal_log_1s},
-    {274, conn_log_enable},
     {31, trace_buf_size_set},
     {32, trace_sched_irq_boot},
     {33, trace_dump_on_oops},
-    {208, disp_frame_trace},
+    {273, thermal_log_1s},
+    {274, conn_log_enable},
 };
 
 }  // namespace
