@@ -10,7 +10,7 @@ inline constexpr knob boot_core_only = {
 
 template <word AllCores>
 inline constexpr knob cpu_start_mask_set = {
-    CPU, "cpu_start_mask_set", text<"Set mask of cores to start, keep bit 0, the boot core (0x1-{})", AllCores>,
+    CPU, "cpu_start_mask_set", text<"Set mask of CPUs to start (0x1-{}), bit 0 is the boot core: keep it", AllCores>,
     dt_arg("&chosen { cpu-start-mask = <0x%x>; };")};
 
 inline constexpr knob big_off = {CPU, "big_off", "Leave whole big cluster off", dt("&chosen { cpu-start-skip-big; };")};
@@ -140,19 +140,20 @@ inline constexpr knob cpu_trip_set = {
     dt_arg("&cpu_alert0 { temperature = <%d>; };")};
 
 inline constexpr knob mitigations_off = {
-    CPU, "mitigations_off", "Disable all CPU speculation mitigations",
+    CPU, "mitigations_off", "Disable all CPU speculation mitigations (insecure)",
     dt(R"(&chosen { mitigations-status = "disabled"; };)")};
 inline constexpr knob kpti_disable = {
-    CPU, "kpti_disable", "Disable kernel page table isolation (KPTI)", dt(R"(&chosen { kpti-status = "disabled"; };)")};
+    CPU, "kpti_disable", "Disable kernel page table isolation (KPTI), insecure",
+    dt(R"(&chosen { kpti-status = "disabled"; };)")};
 inline constexpr knob el0_32bit_mismatch_allow = {
     CPU, "el0_32bit_mismatch_allow", "Run 32-bit programs on the cores that can (mismatched EL0)",
     dt("&chosen { allow-mismatched-32bit-el0; };")};
 inline constexpr knob pauth_disable = {
     CPU, "pauth_disable", "Hide pointer authentication from kernel and programs", dt("&chosen { no-pauth; };")};
 inline constexpr knob bti_disable = {
-    CPU, "bti_disable", "Hide branch target identification (BTI)", dt("&chosen { no-bti; };")};
+    CPU, "bti_disable", "Hide branch target identification (BTI) from kernel and programs", dt("&chosen { no-bti; };")};
 inline constexpr knob sve_disable = {
-    CPU, "sve_disable", "Hide scalable vectors (SVE) from programs", dt("&chosen { no-sve; };")};
+    CPU, "sve_disable", "Hide scalable vectors (SVE) from kernel and programs", dt("&chosen { no-sve; };")};
 inline constexpr knob amu_frequency_invariance_disable = {
     CPU, "amu_frequency_invariance_disable", "Do not use AMU counters to scale load by frequency",
     dt("&chosen { no-amu-fie; };")};

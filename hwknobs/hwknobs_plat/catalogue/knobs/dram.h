@@ -67,7 +67,7 @@ inline constexpr knob dram_power_down_disable = {
 inline constexpr knob dram_wck_always_on = {
     DRAM, "dram_wck_always_on", "Keep DRAM WCK always on", dt("&dramc { wck-always-on; };")};
 inline constexpr knob dram_odt_disable = {
-    DRAM, "dram_odt_disable", "Disable DQ on-die termination (ODT) of DRAM", env("ddr_odt", "off")};
+    DRAM, "dram_odt_disable", "Disable DQ on-die termination (ODT) of DRAM (boot may fail)", env("ddr_odt", "off")};
 
 inline constexpr knob dram_dbi_disable = {
     DRAM, "dram_dbi_disable", "Disable DRAM data bus inversion (DBI)", env("ddr_dbi", "off")};

@@ -19,7 +19,8 @@ inline constexpr knob gpu_voltage_offset = {
     GPU, "gpu_voltage_offset", "Offset GPU voltage in uV (-50000 to 50000), may hang or damage",
     dt_arg("&gpufreq { voltage-offset-microvolt = <%d>; };")};
 inline constexpr knob gpu_speed_bin_ignore = {
-    GPU, "gpu_speed_bin_ignore", "Ignore GPU speed bin fuses and use the default OPP table", env("gpu_bin", "off")};
+    GPU, "gpu_speed_bin_ignore", "Ignore GPU speed bin fuses, use the default OPP table (may hang)",
+    env("gpu_bin", "off")};
 inline constexpr knob gpu_avs_disable = {
     GPU, "gpu_avs_disable", "Ignore fused GPU voltages and use the safe voltage table", env("gpu_avs", "off")};
 inline constexpr knob gpu_disable = {

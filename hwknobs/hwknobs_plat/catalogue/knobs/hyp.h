@@ -20,7 +20,8 @@ inline constexpr knob kvm_nvhe = {
 inline constexpr knob stage2_fault_log = {
     HYP, "stage2_fault_log", "Log host stage-2 faults at EL2", dt("&hypervisor { host-stage2-fault-log; };")};
 inline constexpr knob hyp_iommu_disable = {
-    HYP, "hyp_iommu_disable", "Disable DMA isolation by EL2 SMMU driver", dt("&hypervisor { iommu-driver-disable; };")};
+    HYP, "hyp_iommu_disable", "Disable DMA isolation by EL2 SMMU driver (protected VMs are open)",
+    dt("&hypervisor { iommu-driver-disable; };")};
 inline constexpr knob el2_uart_enable = {HYP, "el2_uart_enable", "Enable EL2 log on UART", env("el2_uart", "on")};
 inline constexpr knob hyp_panic_halt = {
     HYP, "hyp_panic_halt", "Halt at EL2 on EL2 panic for external debugger", dt("&hypervisor { panic-halt; };")};

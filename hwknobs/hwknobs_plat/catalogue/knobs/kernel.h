@@ -27,7 +27,7 @@ inline constexpr knob kasan_mode_set = {
     dt_arg(text<R"(&chosen { kasan-mode = "%s[{}]"; };)", Modes>)};
 
 inline constexpr knob kfence_interval_set = {
-    KERNEL, "kfence_interval_set", "Set KFENCE sample interval in ms (0 for off)",
+    KERNEL, "kfence_interval_set", "Set KFENCE sample interval in ms (0-60000, 0 for off)",
     dt_arg("&chosen { kfence-sample-interval = <0x%x>; };")};
 inline constexpr knob slub_debug_enable = {
     KERNEL, "slub_debug_enable", "Enable SLUB sanity checks, red zones and poisoning",
@@ -65,7 +65,7 @@ inline constexpr knob watchdog_disable = {
     KERNEL, "watchdog_disable", "Disable hardware watchdog in bootloader and kernel (hangs stay hung)",
     both("wdt_boot", "off", R"(&watchdog { status = "disabled"; };)")};
 inline constexpr knob watchdog_timeout_set = {
-    KERNEL, "watchdog_timeout_set", "Set hardware watchdog time in seconds (10-120)",
+    KERNEL, "watchdog_timeout_set", "Set hardware watchdog time in seconds (10-120, shorter resets at boot)",
     dt_arg("&watchdog { timeout-sec = <0x%x>; };")};
 inline constexpr knob watchdog_percpu_kick_enable = {
     KERNEL, "watchdog_percpu_kick_enable", "Kick watchdog from every CPU to catch hard lockups",
@@ -81,7 +81,7 @@ inline constexpr knob memory_limit_set = {
     KERNEL, "memory_limit_set", "Limit usable memory in MB (1024 or more, else boot may fail)",
     dt_arg("&chosen { memory-limit-mb = <0x%x>; };")};
 inline constexpr knob cma_size_set = {
-    KERNEL, "cma_size_set", "Set size of the contiguous memory area (CMA) in MB (16-1024)",
+    KERNEL, "cma_size_set", "Set contiguous memory area (CMA) in MB (16-1024), too large: no boot",
     dt_arg("&chosen { cma-size-mb = <0x%x>; };")};
 inline constexpr knob zram_disable = {
     KERNEL, "zram_disable", "Disable compressed swap in RAM (zram)", dt(R"(&chosen { zram-status = "disabled"; };)")};
@@ -148,7 +148,8 @@ inline constexpr knob pseudo_nmi_enable = {
 
 // Console
 inline constexpr knob console_level_set = {
-    KERNEL, "console_level_set", "Set console log level (0-8)", dt_arg("&chosen { console-loglevel = <0x%x>; };")};
+    KERNEL, "console_level_set", "Set console log level (1-8, 8 prints all)",
+    dt_arg("&chosen { console-loglevel = <0x%x>; };")};
 inline constexpr knob uart_console_disable = {
     KERNEL, "uart_console_disable", "Disable UART log in bootloader and kernel",
     both("uart_log", "off", R"(&chosen { uart-console-status = "disabled"; };)"), choice{"UART log"}};

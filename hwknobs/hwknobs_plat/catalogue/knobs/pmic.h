@@ -30,7 +30,7 @@ inline constexpr knob pmic_oc_log_only = {
     PMIC, "pmic_oc_log_only", "Log regulator over-current, do not switch off (may damage parts)",
     dt(R"(&pmic { over-current-action = "log"; };)")};
 inline constexpr knob buck_vgpu11_oc_error_set = {
-    PMIC, "buck_vgpu11_oc_error_set", "Set over-current limit of buck vgpu11 in uA (high may damage it)",
+    PMIC, "buck_vgpu11_oc_error_set", "Set buck vgpu11 over-current limit in uA (2000000-9000000), may damage",
     dt_arg("&vgpu11 { regulator-oc-error-microamp = <0x%x>; };")};
 inline constexpr knob pmic_uvlo_2600mv = {
     PMIC, "pmic_uvlo_2600mv", "Set PMIC under-voltage lockout to 2600 mV (may damage battery)", env("uvlo_mv", "2600")};

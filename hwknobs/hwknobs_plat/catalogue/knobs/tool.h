@@ -36,9 +36,9 @@ inline constexpr knob ete_enable = {
     dt(text<R"(&ete{} { status = "okay"; };)", Cpu>)};
 
 inline constexpr knob etb_enable = {
-    TOOL, "etb_enable", "Enable CoreSight ETB on-chip trace sink", dt(R"(&etb { status = "okay"; };)")};
+    TOOL, "etb_enable", "Enable CoreSight ETB trace sink on the chip", dt(R"(&etb { status = "okay"; };)")};
 inline constexpr knob etf_enable = {
-    TOOL, "etf_enable", "Enable CoreSight ETF on-chip trace sink", dt(R"(&etf { status = "okay"; };)")};
+    TOOL, "etf_enable", "Enable CoreSight ETF trace sink on the chip", dt(R"(&etf { status = "okay"; };)")};
 inline constexpr knob etr_enable = {
     TOOL, "etr_enable", "Enable CoreSight ETR trace sink in DRAM", dt(R"(&etr { status = "okay"; };)")};
 inline constexpr knob trbe_enable = {

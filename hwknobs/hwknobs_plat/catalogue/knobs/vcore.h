@@ -17,7 +17,7 @@ inline constexpr knob vcore_fix = {
 inline constexpr knob vcore_req_log = {
     VCORE, "vcore_req_log", "Log VCORE level requests per client", dt("&vcore_dvfs { request-log; };")};
 inline constexpr knob vcore_floor_set = {
-    VCORE, "vcore_floor_set", "Set VCORE floor in uV (550000-725000)",
+    VCORE, "vcore_floor_set", "Set VCORE floor in uV (550000-725000), higher may damage",
     dt_arg("&vcore_dvfs { floor-microvolt = <0x%x>; };")};
 inline constexpr knob vcore_floor_disp = {
     VCORE, "vcore_floor_disp", "Keep highest VCORE level while display is on",
