@@ -54,6 +54,17 @@ TEST(Catalogue, PromisedRowsAreAsTheyAlwaysWere) {
     EXPECT_GE(checked, 7U);
 }
 
+// Who knows a setting by its number finds it on another platform. Each has its own panels.
+TEST(Catalogue, ANameHasOneId) {
+    std::map<std::string, std::uint32_t> ids;
+    for (const hwknobs_plat* const plat : hwknobs_platforms())
+        for (const hwknobs_config& row : hwknobs_configs(*plat)) {
+            const std::string name = text_of(row.name);
+            if (name.starts_with("panel_") && row.pl_setting.key != nullptr) continue;
+            EXPECT_EQ(ids.try_emplace(name, row.id).first->second, row.id) << plat->name << ": " << name;
+        }
+}
+
 TEST(Catalogue, IdsFindTheirRows) {
     for (const hwknobs_plat* const plat : hwknobs_platforms()) {
         for (const hwknobs_config& row : hwknobs_configs(*plat))

@@ -20,32 +20,28 @@ using namespace catalogue;
 namespace {
 
 constexpr knob rows[] = {
-    // Kernel: arguments, modules, memory
+    // Kernel: KASLR, arguments
     kernel_argument_add,
-    initcall_debug_enable,
-    dyndbg_set,
-    clk_ignore_unused,
-    regulator_ignore_unused,
-    memory_limit_set,
-    cma_size_set,
-    zram_disable,
-    lowmemorykiller_disable,
+
+    // Kernel: memory debugging
     kmemleak_disable,
     kmemleak_enable,
     slub_debug_enable,
     page_owner_enable,
 
-    // Kernel: lockups, panic, watchdog, RAM dump
-    lockdep_enable,
+    // Kernel: lockups, panic
     hung_task_timeout_set,
     hung_task_panic_enable,
     softlockup_panic_enable,
+    lockdep_enable,
     iommu_fault_panic_enable,
     panic_timeout_set,
     panic_on_oops_disable,
     panic_on_warn_enable,
     sysrq_enable,
     kgdb_uart_enable,
+
+    // Kernel: watchdog, RAM dump
     watchdog_disable,
     watchdog_timeout_set,
     watchdog_percpu_kick_enable,
@@ -62,12 +58,24 @@ constexpr knob rows[] = {
     console_suspend_disable,
     log_buf_8m,
 
-    // Kernel: storage, USB, PCIe, I2C, modem
+    // Kernel: boot, modules, memory size
+    initcall_debug_enable,
+    dyndbg_set,
+    clk_ignore_unused,
+    regulator_ignore_unused,
+    memory_limit_set,
+    cma_size_set,
+    zram_disable,
+    lowmemorykiller_disable,
+
+    // Kernel: storage
     verity_mode_set,
     emmc_rpm_disable,
     emmc_hs400_disable,
     emmc_clk_50mhz,
     sd_uhs_disable,
+
+    // Kernel: USB, PCIe, I2C, modem
     usb_role_set,
     i2c0_100khz,
     modem_off,

@@ -26,37 +26,34 @@ using namespace catalogue;
 namespace {
 
 constexpr knob rows[] = {
-    // Kernel: arguments, modules, memory
-    kernel_argument_add,
+    // Kernel: KASLR, arguments
     kaslr_disable,
     kaslr_enable,
-    initcall_debug_enable,
-    dyndbg_set,
-    clk_ignore_unused,
-    regulator_ignore_unused,
-    memory_limit_set,
-    cma_size_set,
-    zram_disable,
+    kernel_argument_add,
+
+    // Kernel: memory debugging
     kmemleak_disable,
     kmemleak_enable,
     slub_debug_enable,
     page_owner_enable,
     page_poison_enable,
     debug_pagealloc_enable,
-    cfi_permissive,
 
-    // Kernel: lockups, panic, watchdog, RAM dump
-    lockdep_enable,
+    // Kernel: lockups, panic
     hung_task_timeout_set,
     hung_task_panic_enable,
     softlockup_panic_enable,
+    lockdep_enable,
     rcu_stall_panic_enable,
     iommu_fault_panic_enable,
+    cfi_permissive,
     panic_timeout_set,
     panic_on_oops_disable,
     panic_on_warn_enable,
     sysrq_enable,
     kgdb_uart_enable,
+
+    // Kernel: watchdog, RAM dump
     watchdog_disable,
     watchdog_timeout_set,
     watchdog_percpu_kick_enable,
@@ -74,11 +71,22 @@ constexpr knob rows[] = {
     console_suspend_disable,
     log_buf_8m,
 
-    // Kernel: storage, USB, PCIe, I2C, modem
+    // Kernel: boot, modules, memory size
+    initcall_debug_enable,
+    dyndbg_set,
+    clk_ignore_unused,
+    regulator_ignore_unused,
+    memory_limit_set,
+    cma_size_set,
+    zram_disable,
+
+    // Kernel: storage
     verity_mode_set,
     ufs_gear_1,
     ufs_hibern8_disable,
     ufs_clock_gating_disable,
+
+    // Kernel: USB, PCIe, I2C, modem
     usb_role_set,
     usb_high_speed,
     i2c0_100khz,
