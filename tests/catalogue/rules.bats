@@ -12,10 +12,11 @@ compile() {
     "${CXX:-c++}" -std=c++20 "$no_limit" -I"$tests/../hwknobs" -fsyntax-only "$1" 2>&1
 }
 
-# tables <CASES: a line "RULE ROW..." each. The broken row of the nth case stands behind n good ones, so that the
+# tables <CASES: a line "RULE ROW..." each. The broken row of a rule's nth case stands behind n good ones, so that the
 # number in the message tells the cases apart, which are all compiled together.
 tables() {
-    local n=0 i rule row
+    local table=0 n i rule row
+    local -A cases
     echo '#include "hwknobs_plat/catalogue/table.h"'
     echo 'using namespace catalogue;'
     echo '#define X10 "xxxxxxxxxx"'
@@ -23,12 +24,13 @@ tables() {
     echo '#define X330 X30 X30 X30 X30 X30 X30 X30 X30 X30 X30 X30'
     echo '#define X986 X330 X330 X30 X30 X30 X30 X30 X30 X30 X30 X30 X30 X10 X10 "xxxxxx"'
     while read -r rule row; do
-        printf 'constexpr row rows_%d[] = {\n' $((++n))
+        n=$((++cases[$rule]))
+        printf 'constexpr row rows_%d[] = {\n' $((++table))
         echo '    {900, {HRT, "good", "A good row", both("g", "1", "&good { a; b; };"), choice{"good"}}},'
         for ((i = 1; i < n; i++)); do
             printf '    {%d, {HRT, "good_%d", "A good row", dt("&good { a%d; };")}},\n' $((900 + i)) "$i" "$i"
         done
-        printf '    %s};\nconstinit const hwknobs_plat table_%d = version_2<rows_%d>("px0000");\n' "$row" "$n" "$n"
+        printf '    %s};\nconstinit const hwknobs_plat table_%d = version_2<rows_%d>("px0000");\n' "$row" "$table" "$table"
     done
 }
 
@@ -41,9 +43,9 @@ tables() {
     grep -v '^#' "$data/broken_rows.txt" >cases.txt
     tables <cases.txt >broken.cpp
     run -1 compile broken.cpp
-    n=0
+    local -A cases
     while read -r rule row; do
-        grep -qE "row_keeps_rules<$((++n)), .*rule::$rule>" <<<"$output" || fail "not told: $rule $row"
+        grep -qE "row_keeps_rules<$((++cases[$rule])), .*rule::$rule>" <<<"$output" || fail "not told: $rule $row"
     done <cases.txt
     # Every rule is tried.
     sed -n '/^enum class rule {/,/^}/s/^    \([a-z_0-9]*\),$/\1/p' "$tests/../hwknobs/hwknobs_plat/catalogue/rules.h" |
