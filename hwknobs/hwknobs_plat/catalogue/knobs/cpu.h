@@ -1,4 +1,4 @@
-// Cores, operating points, idle states, scheduler, errata and mitigations, throttling.
+// Cores, operating points, idle states, scheduler, mitigations, throttling. "Since 5.3." tells the first kernel.
 #pragma once
 
 #include "hwknobs_plat/catalogue/knob.h"
@@ -15,9 +15,11 @@ inline constexpr knob cpu_start_mask_set = {
 
 inline constexpr knob big_off = {CPU, "big_off", "Leave whole big cluster off", dt("&chosen { cpu-start-skip-big; };")};
 
+// Until 4.4.
 inline constexpr knob cpu_hotplug_disable = {
     CPU, "cpu_hotplug_disable", "Disable automatic core hotplug, keep all cores online",
     dt(R"(&cpu_hotplug { status = "disabled"; };)")};
+// From 4.9 to 4.19.
 inline constexpr knob core_ctl_disable = {
     CPU, "core_ctl_disable", "Disable core control, never isolate lightly loaded cores",
     dt(R"(&core_ctl { status = "disabled"; };)")};
@@ -43,27 +45,35 @@ inline constexpr knob big_cap_set = {
 
 inline constexpr knob big_turbo_disable = {
     CPU, "big_turbo_disable", "Disable turbo operating points of big cluster", dt("&cpufreq_big { turbo-disable; };")};
+// Until 4.4.
 inline constexpr knob hmp_disable = {
     CPU, "hmp_disable", "Disable HMP task migration between little and big cores", dt("&chosen { hmp-disable; };")};
 inline constexpr knob cpufreq_sw_dvfs = {
     CPU, "cpufreq_sw_dvfs", "Let the kernel set CPU clocks instead of the DVFS firmware",
     dt("&cpufreq { software-dvfs; };")};
+// Since 4.7.
 inline constexpr knob iowait_boost_disable = {
     CPU, "iowait_boost_disable", "Disable schedutil boost after I/O wait",
     dt("&chosen { schedutil-no-iowait-boost; };")};
+// Since 4.9.
 inline constexpr knob eas_disable = {
     CPU, "eas_disable", "Disable energy-aware scheduling",
     dt(R"(&chosen { sched-energy-aware-status = "disabled"; };)")};
+// From 4.9 to 4.19.
 inline constexpr knob walt_disable = {
     CPU, "walt_disable", "Use PELT instead of WALT load tracking",
     dt(R"(&chosen { sched-walt-status = "disabled"; };)")};
+// From 4.9 to 4.19.
 inline constexpr knob schedtune_disable = {
     CPU, "schedtune_disable", "Ignore schedtune boost of task groups", dt("&chosen { schedtune-disable; };")};
+// Since 5.15.
 inline constexpr knob pelt_halflife_8ms = {
     CPU, "pelt_halflife_8ms", "Shorten PELT half-life from 32 ms to 8 ms",
     dt("&chosen { sched-pelt-multiplier = <4>; };")};
+// Since 5.3.
 inline constexpr knob uclamp_disable = {
     CPU, "uclamp_disable", "Ignore utilization clamps of tasks and groups", dt("&chosen { sched-uclamp-disable; };")};
+// Since 4.19.
 inline constexpr knob misfit_disable = {
     CPU, "misfit_disable", "Disable misfit migration of heavy tasks to bigger cores",
     dt("&chosen { sched-no-misfit; };")};
@@ -93,8 +103,9 @@ inline constexpr knob cci_fix_max = {
 inline constexpr knob dsu_off_disable = {
     CPU, "dsu_off_disable", "Keep DSU and L3 powered when all cores are idle",
     dt(R"(&cluster_sleep { status = "disabled"; };)")};
+// Since 5.1.
 inline constexpr knob idle_governor_set = {
-    CPU, "idle_governor_set", "Select CPU idle governor, menu or teo",
+    CPU, "idle_governor_set", "Select CPU idle governor (menu or teo)",
     dt_arg(R"(&chosen { cpuidle-governor = "%s[menu,teo]"; };)")};
 inline constexpr knob l3_fix_max = {
     CPU, "l3_fix_max", "Fix L3 and DSU clock at its highest operating point", dt(R"(&dsu { fixed-opp = "max"; };)")};
@@ -139,9 +150,11 @@ inline constexpr knob cpu_trip_set = {
     CPU, "cpu_trip_set", "Set CPU throttling trip in millidegrees C (60000-105000), may overheat",
     dt_arg("&cpu_alert0 { temperature = <%d>; };")};
 
+// Since 5.2.
 inline constexpr knob mitigations_off = {
     CPU, "mitigations_off", "Disable all CPU speculation mitigations (insecure)",
     dt(R"(&chosen { mitigations-status = "disabled"; };)")};
+// From 4.9 to 4.19: mitigations_off has it since.
 inline constexpr knob kpti_disable = {
     CPU, "kpti_disable", "Disable kernel page table isolation (KPTI), insecure",
     dt(R"(&chosen { kpti-status = "disabled"; };)")};
@@ -152,6 +165,7 @@ inline constexpr knob pauth_disable = {
     CPU, "pauth_disable", "Hide pointer authentication from kernel and programs", dt("&chosen { no-pauth; };")};
 inline constexpr knob bti_disable = {
     CPU, "bti_disable", "Hide branch target identification (BTI) from kernel and programs", dt("&chosen { no-bti; };")};
+// Since 6.0.
 inline constexpr knob sve_disable = {
     CPU, "sve_disable", "Hide scalable vectors (SVE) from kernel and programs", dt("&chosen { no-sve; };")};
 inline constexpr knob amu_frequency_invariance_disable = {

@@ -70,6 +70,7 @@ inline constexpr knob disp_underrun_action_set = {
     DISPLAY, "disp_underrun_action_set", "Set action on display underrun (none, log, dump or panic)",
     dt_arg(R"(&dispsys { underrun-action = "%s[none,log,dump,panic]"; };)")};
 
+// Since 4.19.
 template <word AllBits>
 inline constexpr knob drm_debug_mask_set = {
     DISPLAY, "drm_debug_mask_set", text<"Set DRM debug message mask (0x0-{})", AllBits>,

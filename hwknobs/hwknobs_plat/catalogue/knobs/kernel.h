@@ -1,10 +1,12 @@
-// Kernel debugging, panic, watchdog, RAM dump, printk and console, storage.
+// Kernel debugging, panic, watchdog, RAM dump, printk and console, storage. "Since 5.8." tells the first kernel, by
+// which platforms have the knob.
 #pragma once
 
 #include "hwknobs_plat/catalogue/knob.h"
 
 namespace catalogue {
 
+// Since 4.6.
 inline constexpr knob kaslr_disable = {
     KERNEL, "kaslr_disable", "Disable Linux kernel randomize-base", dt(R"(&chosen { kaslr-status="disabled"; };)"),
     choice{"KASLR"}};
@@ -16,6 +18,7 @@ inline constexpr knob kmemleak_disable = {
     choice{"kmemleak"}};
 inline constexpr knob kmemleak_enable = {
     KERNEL, "kmemleak_enable", "Enable Kmemleak", dt(R"(&chosen { kmemleak-status="okay"; };)"), choice{"kmemleak"}};
+// Since 5.11, with MTE.
 inline constexpr knob kasan_hw_tags_enable = {
     KERNEL, "kasan_hw_tags_enable", "Enable KASAN with MTE hardware tags",
     dt(R"(&chosen { kasan-hw-tags-status = "okay"; };)")};
@@ -26,21 +29,26 @@ inline constexpr knob kasan_mode_set = {
     KERNEL, "kasan_mode_set", text<"Set KASAN tag check mode ({})", Told>,
     dt_arg(text<R"(&chosen { kasan-mode = "%s[{}]"; };)", Modes>)};
 
+// Since 5.12.
 inline constexpr knob kfence_interval_set = {
     KERNEL, "kfence_interval_set", "Set KFENCE sample interval in ms (0-60000, 0 for off)",
     dt_arg("&chosen { kfence-sample-interval = <0x%x>; };")};
 inline constexpr knob slub_debug_enable = {
     KERNEL, "slub_debug_enable", "Enable SLUB sanity checks, red zones and poisoning",
     dt(R"(&chosen { slub-debug = "FZP"; };)")};
+// Since 3.19.
 inline constexpr knob page_owner_enable = {
     KERNEL, "page_owner_enable", "Record the allocating call stack of every page",
     dt(R"(&chosen { page-owner-status = "okay"; };)")};
+// Since 4.6.
 inline constexpr knob page_poison_enable = {
     KERNEL, "page_poison_enable", "Poison free pages and verify them on allocation",
     dt(R"(&chosen { page-poison-status = "okay"; };)")};
+// Since 4.6.
 inline constexpr knob debug_pagealloc_enable = {
     KERNEL, "debug_pagealloc_enable", "Unmap free pages to trap use after free",
     dt(R"(&chosen { debug-pagealloc-status = "okay"; };)")};
+// Since 5.3.
 inline constexpr knob init_on_alloc_disable = {
     KERNEL, "init_on_alloc_disable", "Skip zeroing of memory on allocation",
     dt(R"(&chosen { init-on-alloc-status = "disabled"; };)")};
@@ -56,8 +64,10 @@ inline constexpr knob hung_task_panic_enable = {
     KERNEL, "hung_task_panic_enable", "Panic when a hung task is found", dt("&chosen { hung-task-panic; };")};
 inline constexpr knob softlockup_panic_enable = {
     KERNEL, "softlockup_panic_enable", "Panic on soft lockup", dt("&chosen { softlockup-panic; };")};
+// Since 4.8.
 inline constexpr knob rcu_stall_panic_enable = {
     KERNEL, "rcu_stall_panic_enable", "Panic on RCU CPU stall", dt("&chosen { panic-on-rcu-stall; };")};
+// Since 5.19.
 inline constexpr knob rcu_exp_stall_timeout_200ms = {
     KERNEL, "rcu_exp_stall_timeout_200ms", "Set expedited RCU stall timeout to 200 ms",
     dt("&chosen { rcu-exp-cpu-stall-timeout-ms = <200>; };")};
@@ -70,6 +80,7 @@ inline constexpr knob watchdog_timeout_set = {
 inline constexpr knob watchdog_percpu_kick_enable = {
     KERNEL, "watchdog_percpu_kick_enable", "Kick watchdog from every CPU to catch hard lockups",
     dt("&watchdog { percpu-kick; };")};
+// Since 5.12.
 inline constexpr knob hash_pointers_disable = {
     KERNEL, "hash_pointers_disable", "Print plain kernel pointers instead of hashed ones",
     dt("&chosen { no-hash-pointers; };")};
@@ -85,14 +96,16 @@ inline constexpr knob cma_size_set = {
     dt_arg("&chosen { cma-size-mb = <0x%x>; };")};
 inline constexpr knob zram_disable = {
     KERNEL, "zram_disable", "Disable compressed swap in RAM (zram)", dt(R"(&chosen { zram-status = "disabled"; };)")};
+// Since 5.10, whose drivers are modules.
 inline constexpr knob module_blocklist_set = {
-    KERNEL, "module_blocklist_set", "Do not load the named modules, with commas between them",
+    KERNEL, "module_blocklist_set", "Do not load the named modules (commas between them)",
     dt_arg(R"(&chosen { module-blocklist = "%s "; };)")};
 inline constexpr knob dyndbg_set = {
-    KERNEL, "dyndbg_set", "Enable dynamic debug messages of the named modules",
+    KERNEL, "dyndbg_set", "Enable dynamic debug messages of the named modules (commas between)",
     dt_arg(R"(&chosen { dyndbg-modules = "%s "; };)")};
 inline constexpr knob initcall_debug_enable = {
     KERNEL, "initcall_debug_enable", "Log duration and result of every initcall", dt("&chosen { initcall-debug; };")};
+// Since 5.7.
 inline constexpr knob fw_devlink_set = {
     KERNEL, "fw_devlink_set", "Set fw_devlink mode (off, permissive, on or rpm)",
     dt_arg(R"(&chosen { fw-devlink = "%s[off,permissive,on,rpm]"; };)")};
@@ -107,9 +120,11 @@ inline constexpr knob panic_timeout_set = {
 inline constexpr knob panic_on_oops_disable = {
     KERNEL, "panic_on_oops_disable", "Kill the failing task and go on after an oops",
     dt(R"(&chosen { panic-on-oops-status = "disabled"; };)")};
+// Since 3.19.
 inline constexpr knob panic_on_warn_enable = {
     KERNEL, "panic_on_warn_enable", "Panic on kernel warning", dt("&chosen { panic-on-warn; };")};
 
+// Since 5.0.
 template <word AllBits>
 inline constexpr knob panic_print_set = {
     KERNEL, "panic_print_set", text<"Set panic_print system info mask (0x0-{})", AllBits>,
@@ -124,11 +139,14 @@ inline constexpr knob ramdump_mini_enable = {
     KERNEL, "ramdump_mini_enable", "Dump only registered minidump regions after a crash",
     both("ramdump", "mini", R"(&chosen { minidump-status = "okay"; };)"), choice{"RAM dump"}};
 inline constexpr knob ramdump_to_usb = {KERNEL, "ramdump_to_usb", "Send RAM dump to USB host", env("dump_to", "usb")};
+// Until 4.9.
 inline constexpr knob lowmemorykiller_disable = {
     KERNEL, "lowmemorykiller_disable", "Disable in-kernel low memory killer",
     dt(R"(&chosen { lowmemorykiller-status = "disabled"; };)")};
+// Since 5.8.
 inline constexpr knob pstore_all_reasons = {
     KERNEL, "pstore_all_reasons", "Store kernel log in pstore on every reboot", dt("&ramoops { max-reason = <4>; };")};
+// Since 4.14.
 inline constexpr knob cfi_permissive = {
     KERNEL, "cfi_permissive", "Warn on control flow integrity failure instead of panic",
     dt(R"(&chosen { cfi = "warn"; };)")};
@@ -138,10 +156,12 @@ inline constexpr knob mte_enable = {
 inline constexpr knob mte_disable = {
     KERNEL, "mte_disable", "Hide memory tagging extension from kernel and programs",
     both("mte", "off", R"(&chosen { mte-status = "disabled"; };)"), choice{"MTE"}};
+// Since 6.1.
 inline constexpr knob mglru_disable = {
     KERNEL, "mglru_disable", "Disable multi-generational LRU", dt(R"(&chosen { lru-gen-status = "disabled"; };)")};
 inline constexpr knob iommu_fault_panic_enable = {
     KERNEL, "iommu_fault_panic_enable", "Panic on IOMMU translation fault", dt("&iommu { fault-panic; };")};
+// Since 5.1.
 inline constexpr knob pseudo_nmi_enable = {
     KERNEL, "pseudo_nmi_enable", "Enable pseudo-NMI by GIC priorities (hard lockup backtrace)",
     dt("&chosen { gicv3-pseudo-nmi; };")};
@@ -161,7 +181,7 @@ inline constexpr knob log_buf_8m = {
 inline constexpr knob earlycon_enable = {
     KERNEL, "earlycon_enable", "Enable early console on UART", dt("&chosen { earlycon; };")};
 inline constexpr knob uart_shell_set = {
-    KERNEL, "uart_shell_set", "Switch Android shell on UART console on or off",
+    KERNEL, "uart_shell_set", "Switch Android shell on UART console (on or off)",
     dt_arg(R"(&chosen { uart-shell = "%s[on,off]"; };)")};
 inline constexpr knob uart_baud_921600 = {
     KERNEL, "uart_baud_921600", "Set UART baud rate to 921600",
@@ -192,6 +212,7 @@ inline constexpr knob modem_off = {
     KERNEL, "modem_off", "Leave the modem off", both("modem", "off", R"(&modem { status = "disabled"; };)")};
 
 // Storage
+// Since 4.1.
 inline constexpr knob verity_mode_set = {
     KERNEL, "verity_mode_set", "Set dm-verity error mode (enforcing, eio or logging)",
     env_arg("verity", "%s[enforcing,eio,logging]")};
@@ -209,6 +230,7 @@ inline constexpr knob ufs_hibern8_disable = {
 inline constexpr knob ufs_clock_gating_disable = {
     KERNEL, "ufs_clock_gating_disable", "Disable UFS clock gating",
     dt(R"(&ufshci { clk-gating-status = "disabled"; };)")};
+// Since 5.8.
 inline constexpr knob ufs_write_booster_disable = {
     KERNEL, "ufs_write_booster_disable", "Disable UFS WriteBooster",
     dt(R"(&ufshci { write-booster-status = "disabled"; };)")};

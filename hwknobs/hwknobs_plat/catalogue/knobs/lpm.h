@@ -7,16 +7,19 @@ namespace catalogue {
 
 inline constexpr knob suspend_disable = {
     LPM, "suspend_disable", "Disable system suspend", dt("&spm { suspend-disable; };")};
+// Since 4.10.
 inline constexpr knob suspend_s2idle = {
     LPM, "suspend_s2idle", "Use suspend-to-idle as default suspend mode",
     dt(R"(&chosen { mem-sleep-default = "s2idle"; };)")};
 inline constexpr knob pm_print_times = {
     LPM, "pm_print_times", "Print suspend and resume time of each device", dt("&chosen { pm-print-times; };")};
+// Since 4.15.
 inline constexpr knob pm_debug_messages = {
     LPM, "pm_debug_messages", "Enable suspend and resume debug messages", dt("&chosen { pm-debug-messages; };")};
 inline constexpr knob pm_test_set = {
-    LPM, "pm_test_set", "Stop suspend at stage freezer, devices, platform, processors or core",
+    LPM, "pm_test_set", "Stop suspend at a stage (freezer, devices, platform, processors, core)",
     dt_arg(R"(&chosen { pm-test = "%s[freezer,devices,platform,processors,core]"; };)")};
+// Since 4.9.
 inline constexpr knob dpm_watchdog_set = {
     LPM, "dpm_watchdog_set", "Set device suspend watchdog timeout in seconds (1-600)",
     dt_arg("&chosen { dpm-watchdog-timeout-sec = <0x%x>; };")};

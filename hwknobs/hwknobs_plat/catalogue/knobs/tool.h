@@ -43,6 +43,7 @@ inline constexpr knob etr_enable = {
     TOOL, "etr_enable", "Enable CoreSight ETR trace sink in DRAM", dt(R"(&etr { status = "okay"; };)")};
 inline constexpr knob trbe_enable = {
     TOOL, "trbe_enable", "Enable per-CPU trace buffers (TRBE)", dt(R"(&trbe { status = "okay"; };)")};
+// Since 4.4.
 inline constexpr knob perf_stat_events = {
     TOOL, "perf_stat_events", "Set Boot Perf Stat Events", env_arg("perf_event", "%s")};
 inline constexpr knob perf_paranoid_set = {
@@ -50,6 +51,7 @@ inline constexpr knob perf_paranoid_set = {
     dt_arg("&chosen { perf-event-paranoid = <%d>; };")};
 inline constexpr knob pmu_idle_keep = {
     TOOL, "pmu_idle_keep", "Keep PMU counters running in CPU idle", dt("&pmu { idle-keep-on; };")};
+// Since 4.16.
 inline constexpr knob dsu_pmu_enable = {
     TOOL, "dsu_pmu_enable", "Enable DSU performance counters", dt(R"(&dsu_pmu { status = "okay"; };)")};
 inline constexpr knob spe_enable = {

@@ -14,6 +14,9 @@ inline constexpr knob vcore_fix = {
     VCORE, text<"vcore_fix_{}mv", Mv>, text<"Fix VCORE at {} mV", Mv>,
     dt(text<"&vcore_dvfs { fixed-microvolt = <{}>; };", Mv * 1000>), choice{"fixed VCORE level"}};
 
+inline constexpr knob vcore_fix_550mv = {
+    VCORE, "vcore_fix_550mv", "Fix VCORE at its lowest level, 550 mV (may hang under load)",
+    dt("&vcore_dvfs { fixed-microvolt = <550000>; };"), choice{"fixed VCORE level"}};
 inline constexpr knob vcore_req_log = {
     VCORE, "vcore_req_log", "Log VCORE level requests per client", dt("&vcore_dvfs { request-log; };")};
 inline constexpr knob vcore_floor_set = {

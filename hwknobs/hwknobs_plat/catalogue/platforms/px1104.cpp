@@ -11,7 +11,7 @@
 // Modem    3G
 // Buses    USB 2 dual role, SD slot (UHS-I), I2C
 // Wi-Fi    on SDIO
-// Debug    JTAG, no debug latch
+// Debug    no JTAG pins, no debug latch
 // None     IOMMU, EMI MPU, SoC idle, picture quality blocks
 // clang-format off
 #include "hwknobs_plat/catalogue/knobs.h"
@@ -103,6 +103,7 @@ constexpr knob rows[] = {
     // PMIC and charging
     buck_plus_25mv<"vcore">,
     buck_plus_25mv<"vdram">,
+    buck_offset<"vproc">,
     buck_offset<"vcore">,
     buck_offset<"vdram">,
     buck_pwm_all,
@@ -160,7 +161,6 @@ constexpr knob rows[] = {
     boot_reason_print,
     boot_profile_enable,
     adb_early_start,
-    jtag_pins_enable,
     trace_buf_size_set,
     trace_sched_irq_boot,
     trace_dump_on_oops,

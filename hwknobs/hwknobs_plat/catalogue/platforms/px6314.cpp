@@ -173,7 +173,7 @@ constexpr row rows[] = {
     // VCORE: core rail levels
     {158, vcore_dvfs_disable},
     {159, vcore_fix<725>},
-    {160, vcore_fix<550>},
+    {160, vcore_fix_550mv},
     {161, vcore_req_log},
     {162, vcore_floor_set},
     {163, vcore_floor_disp},
