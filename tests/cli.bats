@@ -15,7 +15,7 @@ load device
 }
 
 @test "detection of the platform" {
-    local unknown="ERROR: Can't determine platform, fix it first or specify the platform via --plat"
+    local unknown="ERROR: Can't determine platform, fix it first or specify the platform via --plat"$'\n'
     local chosen=$DEV/proc/device-tree/chosen code
     for code in 0 10000 0x0; do # only 16 bits count
         echo "$code" >"$DEV/proc/chip/hw_code"
@@ -37,6 +37,9 @@ load device
     expect 1 "$unknown" hwknobs list
     rm "$chosen/atag,chipid"
     expect 1 "Fail to open /proc/device-tree/chosen/atag,chipid(2), No such file or directory
+$unknown" hwknobs list
+    mkdir "$chosen/atag,chipid"
+    expect 1 "Fail to read /proc/device-tree/chosen/atag,chipid(21), Is a directory
 $unknown" hwknobs list
     echo 1206 >"$DEV/proc/chip/hw_code"
     run -0 hwknobs --verbose list

@@ -10,7 +10,7 @@ load device
     expect 1 "hwknobs boot status = 0x89abcdef" hwknobs result
     truncate -s $((0x20c03)) "$DEV/boot_para"
     expect 0 "" hwknobs result
-    expect 0 "DEBUG: hwknobs_boot_status: boot para read hwknobs header failed, size mismatch 3" hwknobs --verbose result
+    expect 0 "DEBUG: hwknobs_boot_status: boot para read hwknobs header failed, size mismatch 3"$'\n' hwknobs --verbose result
     expect 0 "" hwknobs --file=none result
     expect 0 "DEBUG: hwknobs_boot_status: Cannot open file none" hwknobs --verbose --file=x --file none result
 }
@@ -27,7 +27,8 @@ load device
     done < <(rows auth_codes)
     device reboot --pl PL_AUTH_FAIL
     expect 1 "[PL]: SBOOT enable, Image authentication FAIL
-ERROR: hwknobs_sec_boot_status: Can't open atag,lk-sec entry" hwknobs auth-status
+ERROR: hwknobs_sec_boot_status: Can't open atag,lk-sec entry
+" hwknobs auth-status
     mkdir "$DEV/proc/device-tree/chosen/atag,lk-sec"
     ends_in 1 "ERROR: hwknobs_sec_boot_status: Can't read atag,lk-sec entry" hwknobs auth-status
     rm -r "$DEV/proc/device-tree/chosen"
@@ -89,13 +90,15 @@ xml() { hwknobs xmlconfig-set <<<"<hwknobs name='n' platform='px8314'>$1</hwknob
 
 @test "what documents may hold" {
     compiler record <<<'cat >source; printf blob'
-    xml '<plsetting><item key="a" value="1"/><x/></plsetting><other/>
+    xml '<plsetting><item key="a" value="1"/><x key="x" value="y"/></plsetting><?dtbo x?>
          <dtbo>first</dtbo><plsetting><item key="a" value="2"/><item key="B.c" value="x y"/></plsetting>
          <dtbo><![CDATA[/* <&> */]]><x/></dtbo>'
     [[ $(head -c 18 "$DEV/data/source") == "/* <&> */"$'\n'"&chosen " ]]
     [[ $(bytes 0x408 14) == "$(hex 'B.c=x y\0a=2\0\0\0')" && $(bytes 0x200 2) == 6e00 ]]
-    run -0 xml '<plsetting><item key="x"/></plsetting>' # no source, no blob
-    [[ ${lines[2]} == "WARN: skip null value 0x"*", (nil)" && $(bytes 0x804 4) == 00000000 ]]
+    # No source, no blob.
+    run -0 xml '<plsetting><item key="x"/><item value="y"/><item key="k" value="v"/></plsetting>'
+    [[ ${lines[2]} == "WARN: skip null value 0x"*", (nil)" && ${lines[3]} == "WARN: skip null value (nil), 0x"* ]]
+    [[ $(bytes 0x408 5) == "$(hex 'k=v\0\0')" && $(bytes 0x804 4) == 00000000 ]]
     hwknobs xmlconfig-set <<<"<hwknobs name='a2345678901234567890123456789012345' platform='px8314'/>"
     [[ $(bytes 0x21e 2) == 3100 ]] # cut to 31 characters
     printf '%-4095s' "<hwknobs name='n' platform='px8314'/>" >"$DEV/data/largest"

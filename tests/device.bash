@@ -20,15 +20,15 @@ fail() {
     return 1
 }
 
-# expect STATUS OUTPUT COMMAND...: runs the command, which gives exactly this (a final newline aside) on standard output.
+# expect STATUS OUTPUT COMMAND...: runs the command, which gives exactly this and a newline on standard output.
 # On standard error it says nothing, or what matches the pattern in "errors", which a case sets for itself.
 expect() {
-    run --separate-stderr "${@:3}"
-    if [[ $status != "$1" || $output != "$2" ]] || ! said_errors; then
+    run --keep-empty-lines --separate-stderr "${@:3}"
+    if [[ $status != "$1" || $output != "$2${2:+$'\n'}" ]] || ! said_errors; then
         echo "command: ${*:3}"
         echo "status:  $status, expected $1"
         echo "errors:  $stderr"
-        diff <(echo "$2") <(echo "$output") || true
+        diff <(echo "$2") <(echo -n "$output") || true
         return 1
     fi
 }
@@ -40,7 +40,7 @@ ends_in() {
 }
 
 # shellcheck disable=SC2053 # a pattern
-said_errors() { [[ $stderr == ${errors-} ]]; }
+said_errors() { [[ ${stderr%$'\n'} == ${errors-} ]]; }
 
 # rows TABLE: its lines without the first, which names its columns.
 rows() { tail -n +2 "$data/$1.txt"; }

@@ -6,7 +6,8 @@ namespace {
 
 const hwknobs_config first{.desc = "1", .pl_setting = {"b", "1"}, .dt_fragment = "&a { x; };", .name = "first"};
 const hwknobs_config second{.desc = "2", .arg_type = 1, .pl_setting = {"b", "%d"}, .name = "second"};
-const hwknobs_config third{.desc = "3", .arg_type = 1, .dt_fragment = "&c { y = <%d>; };", .name = "third"};
+const hwknobs_config third{
+    .desc = "3", .arg_type = 1, .pl_setting = {"c"}, .dt_fragment = "&c { y = <%d>; };", .name = "third"};
 
 TEST(Image, UpdatesRemovesAndGenerates) {
     hwknobs_image image{"default", "px0000", {config_item(&first, 1), config_item(&second, 2)}};

@@ -88,6 +88,7 @@ TEST(Item, Descriptions) {
         {"%d", -3, "int32", "Activate  knob(7)[arg=-3] x"},
         {"%x", 255U, "uint32", "Activate  knob(7)[arg=255] x"},
         {"%s", "a,b", "string", "Activate  knob(7)[str=a,b] x"},
+        {"%s", "", "string", "Activate  knob(7)[str=] x"},
     };
     for (const auto& [text, arg, type, desc] : cases) {
         const hwknobs_config config = entry(text);

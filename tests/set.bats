@@ -49,7 +49,7 @@ Skip delete option" hwknobs setname -d kaslr_disable
     expect 1 "$none" hwknobs set
     expect 1 "$none" hwknobs set -m
     expect 1 "$none" hwknobs set -d --no-recovery
-    errors="set: invalid option -- 'x'" expect 1 "ERROR: hwknobs set with unknown option" hwknobs set -x 1
+    errors="set: invalid option -- 'x'" expect 1 $'ERROR: hwknobs set with unknown option\n' hwknobs set -x 1
     expect 1 "ERROR: invalid config number -m" hwknobs set -d "$(id_of kaslr_disable)" -m 5
     expect 1 "$mismatch" hwknobs --plat=px8314 setname -m kmemleak_disable
     ends_in 1 "ERROR: plenv settings need 1012 bytes, the partition holds 1003" \

@@ -7,6 +7,7 @@ load device
     needs_strace
     hwknobs setname kaslr_disable
     cp "$DEV/boot_para" "$DEV/good"
+    printf '\0\0\0\0\x14\x83\0\0%12s' '' >"$DEV/proc/device-tree/chosen/atag,chipid" # for where hw_code cannot be read
     local partition=/dev/block/by-name/boot_para command filter inject said errors
     # shellcheck disable=SC2034 # errors is for said_errors
     while IFS='|' read -r command filter inject said errors; do
