@@ -36,6 +36,15 @@ setup_file() {
     done
 }
 
+@test "the links of the documents lead to what is installed" {
+    local file link count=0
+    while IFS=: read -r file link; do
+        [[ -e ${file%/*}/$link ]] || fail "$file: $link"
+        count=$((count + 1))
+    done < <(grep -roP --include='*.md' '\]\((?!http)\K[^)#]+' "$PREFIX/share/doc")
+    ((count > 10))
+}
+
 @test "the executable has what compiler and linker offer against mistakes" {
     if grep -q '^HWKNOBS_SANITIZE:STRING=.' "$HWKNOBS_BUILD/CMakeCache.txt"; then skip "sanitizers find more"; fi
     run -0 readelf -Wld --dyn-syms "$PREFIX/bin/hwknobs"
