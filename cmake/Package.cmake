@@ -15,4 +15,6 @@ hwknobs chooses hardware and kernel tuning settings of an Android device from
 a catalogue and writes them, as a device-tree overlay and bootloader settings,
 where the bootloader finds them at the next boot. It is for engineers who
 bring up and debug devices.")
+# By the component that all belongs to, cpack keeps its list of files apart from that of "cmake --install".
+set(CPACK_INSTALL_CMAKE_PROJECTS ${CMAKE_BINARY_DIR} ${PROJECT_NAME} Unspecified /)
 include(CPack)
