@@ -65,14 +65,4 @@ TEST(Catalogue, ANameHasOneId) {
         }
 }
 
-TEST(Catalogue, IdsFindTheirRows) {
-    for (const hwknobs_plat* const plat : hwknobs_platforms()) {
-        for (const hwknobs_config& row : hwknobs_configs(*plat))
-            EXPECT_EQ(get_config_by_id(plat, row.id), plat->version == version_with_ids ? &row : nullptr)
-                << plat->name << ": " << row.desc;
-        EXPECT_EQ(get_config_by_id(plat, 0), nullptr);
-        EXPECT_EQ(get_config_by_id(plat, 1023), nullptr);
-    }
-}
-
 }  // namespace
