@@ -113,7 +113,7 @@ std::string make_page(const json& catalogue, const std::string& sources) {
         page.replace(page.find(place), place.size(), text);
     };
     for (const std::string part : {"page.css", "rules.js", "page.js"})
-        fill_in("<<" + part + ">>", read_file(sources + "/" + part));
+        fill_in("<<" + part + ">>", read_file(fmt::format("{}/{}", sources, part)));
     // In JSON "<" is in strings only; spelled like this, no string can end the script element.
     fill_in("<<catalogue>>", std::regex_replace(catalogue.dump(), std::regex("<"), "\\u003c"));
     return page;

@@ -4,7 +4,7 @@
 build_packages=(g++ cmake ninja-build libxml2-dev libfmt-dev nlohmann-json3-dev)
 device_packages=(bubblewrap device-tree-compiler proot)
 test_packages=(bats libgtest-dev libgmock-dev parallel strace shellcheck shfmt clang clang-format clang-tidy man-db mandoc
-    zsh fish)
+    pycodestyle pyflakes3 zsh fish)
 fuzz_packages=(clang libclang-rt-dev llvm)
 package_packages=(debootstrap dpkg-dev file lintian)
 page_test_packages=(chromium chromium-driver python3-selenium)
