@@ -121,7 +121,7 @@ xml() { hwknobs xmlconfig-set <<<"<hwknobs name='n' platform='px8314'>$1</hwknob
     [[ $stderr == *"parser error"* && $output == $'Config generate (stdin)\nERROR: Could not parse XML file content' ]]
     head -c 4096 /dev/zero | tr '\0' ' ' >"$DEV/data/large"
     ends_in 1 $'\t> n < sizeof(buf)' hwknobs xmlconfig-set large
-    ends_in 1 "ERROR: Can't open input file none, 2" hwknobs xmlconfig-set none
+    ends_in 1 "ERROR: Can't open input file -, 2" hwknobs xmlconfig-set -
     ends_in 1 "ERROR: xml config file size too small" hwknobs xmlconfig-set . # a folder
     cmp "$DEV/boot_para" "$DEV/before"
 }

@@ -19,14 +19,20 @@ load device
 DEBUG: /dts-v1/;"* ]]
 }
 
-@test "a compiler that is gone before it has read its source" {
+@test "a compiler that is gone before it has read its input, and pipes that cannot be as large as others" {
     needs_strace
     local strace=(env ASAN_OPTIONS=detect_leaks=0 strace -o /dev/null -e inject=poll:delay_enter=300000:when=1)
+    hwknobs setname kaslr_disable
     compiler dtc <<<'exit 0' # it read nothing, and says that all went well
+    ends_in 1 "== dts (size: 0) ==" device run "${strace[@]/poll/write}" hwknobs status --partition
     ends_in 1 "ERROR: Write fragment error" device run "${strace[@]}" hwknobs setname kaslr_disable
     compiler dtc <<<'echo why >&2; exit 4'
     run -1 device run "${strace[@]}" hwknobs setname kaslr_disable
     [[ $output == *"why"*"ERROR: DTC './dtc' failed (status 4)" ]]
+    hwknobs xmlconfig-set <<<"<hwknobs name='n' platform='px8314'/>"
+    compiler dtc <<<'cat >/dev/null; seq 20000' # more than 64 KiB
+    ends_in 1 "== dts (size: 108894) ==" timeout 20 "$device_script" run "$DEV" \
+        env ASAN_OPTIONS=detect_leaks=0 strace -o /dev/null -e inject=fcntl:error=EPERM:when=5 hwknobs status --partition
 }
 
 @test "streams closed in any order lose no bytes" {
@@ -43,12 +49,12 @@ DEBUG: /dts-v1/;"* ]]
     compiler dtc <<<'cat >/dev/null; echo "from the compiler" >&9; exit 1'
     run -1 device run sh -c 'hwknobs setname kaslr_disable >>log 9>>log; status=$?; cat log; exit $status'
     [[ ${#lines[@]} == 7 && ${lines[2]} == "from the compiler" && ${lines[3]} == "DTC compile failed" ]]
-    DTCBIN=/none run -1 hwknobs setname kaslr_disable
-    [[ $(grep -c '' <<<"$output") == 6 && $output == *$'==================\nERROR: DTC \'/none\' failed (status 1)' ]]
+    DTCBIN='' run -1 hwknobs setname kaslr_disable
+    [[ $(grep -c '' <<<"$output") == 6 && $output == *$'==================\nERROR: DTC \'\' failed (status 1)' ]]
 }
 
 @test "the child starts with default signals and without the partition, the tool survives an ignored SIGCHLD" {
-    local caller=(env --ignore-signal={CHLD,PIPE,INT} --block-signal=USR1)
+    local caller=(env --ignore-signal={CHLD,PIPE,INT,XFSZ} --block-signal=USR1)
     # This shell keeps the signals that it was started with, others reset some.
     compiler dtc bash <<<'grep -E "^Sig(Ign|Blk)" /proc/self/status >signals; readlink /proc/self/fd/* >files; exec dtc "$@"'
     run -0 device run "${caller[@]}" hwknobs setname kaslr_disable
@@ -61,7 +67,7 @@ DEBUG: /dts-v1/;"* ]]
 @test "the command that reads back, and long names of compilers" {
     hwknobs setname kaslr_disable
     compiler dtc_vendor <<<'echo "$@" >arguments; cat >/dev/null'
-    DTCBIN="unset" run -1 device run env PATH=/data/local/tmp:/system/bin:/usr/bin hwknobs status --partition
+    DTCBIN="unset" run -1 device run env MALLOC_PERTURB_=1 PATH=/data/local/tmp:/system/bin:/usr/bin hwknobs status --partition
     [[ ${lines[-1]} == "== dts (size: 0) ==" ]]
     [[ $(<"$DEV/data/arguments") == "-Wno-unit_address_vs_reg -I dtb -O dts -" ]]
     export DTCBIN

@@ -58,6 +58,7 @@ TEST(ItemWords, Refused) {
         {{id_of(signed_row), "a1", id_of(signed_row), "a2"},
          "Repeat input config :" + signed_name + "(" + id_of(signed_row) + ")"},
         {{"0"}, "invalid config number 0"},
+        {{"0x10"}, "invalid config number 0x10"},
         {{"1025"}, "invalid config number 1025"},
         {{"1024"}, "Cannot find this config ID: 1024"},
         {{"x"}, "invalid config number x"},

@@ -59,6 +59,9 @@ expected_image() {
     is_blank
     expect 1 "ERROR: Cannot read file out dt blob (No data available)" \
         device run sh -c 'truncate -s 5000 out; hwknobs --file=out status --partition'
+    compiler limited <<<'prlimit --fsize=1024 --pid $PPID; exec dtc "$@"' # a part of the image has room
+    ends_in 1 "ERROR: Cannot write file /dev/block/by-name/boot_para (No space left on device)" hwknobs setname kaslr_disable
+    ends_in 1 "  hwknobs partition setting doesn't exist" hwknobs status --partition
     ends_in 1 "ERROR: Cannot open output file /none/out" hwknobs --file=/none/out setname kaslr_disable
     truncate -s 1048575 "$DEV/boot_para"
     ends_in 1 "ERROR: Partition size too small 1048575" hwknobs --file=out setname kaslr_disable
@@ -116,4 +119,7 @@ $none" hwknobs --verbose --file=. status --partition
         run -1 hwknobs --verbose status --partition
         grep -qxF "$said" <<<"$output" || fail "$value: $output"
     done < <(rows cut_partitions)
+    mkfifo "$DEV/data/pipe"
+    { head -c 100 "$DEV/good" && sleep 0.2 && tail -c +101 "$DEV/good"; } >"$DEV/data/pipe" & # its header in two parts
+    ends_in 1 "ERROR: Cannot lseek file pipe (Illegal seek)" hwknobs --file=pipe status --partition
 }
