@@ -168,7 +168,7 @@ inline constexpr knob pseudo_nmi_enable = {
 
 // Console
 inline constexpr knob console_level_set = {
-    KERNEL, "console_level_set", "Set console log level (1-8, 8 prints all)",
+    KERNEL, "console_level_set", "Set console (printk) log level (1-8, 8 prints all)",
     dt_arg("&chosen { console-loglevel = <0x%x>; };")};
 inline constexpr knob uart_console_disable = {
     KERNEL, "uart_console_disable", "Disable UART log in bootloader and kernel",

@@ -28,7 +28,7 @@ inline constexpr knob wakelock_log = {
 inline constexpr knob wake_reason_log = {
     LPM, "wake_reason_log", "Log wake-up source at each resume", dt("&spm { wake-reason-log; };")};
 inline constexpr knob wake_mask_set = {
-    LPM, "wake_mask_set", "Mask SPM wake-up sources by bit mask (0x0-0xffffffff)",
+    LPM, "wake_mask_set", "Mask SPM wake-up sources by bits (0x0-0xffffffff, all: no wake-up)",
     dt_arg("&spm { wake-source-mask = <0x%x>; };")};
 inline constexpr knob gic_pending_log = {
     LPM, "gic_pending_log", "Log pending GIC interrupts when suspend is aborted", dt("&gic { suspend-pending-log; };")};
