@@ -158,6 +158,7 @@ inline constexpr knob mitigations_off = {
 inline constexpr knob kpti_disable = {
     CPU, "kpti_disable", "Disable kernel page table isolation (KPTI), insecure",
     dt(R"(&chosen { kpti-status = "disabled"; };)")};
+// Where some of the cores run 32-bit programs, as A710 beside A510 and X2.
 inline constexpr knob el0_32bit_mismatch_allow = {
     CPU, "el0_32bit_mismatch_allow", "Run 32-bit programs on the cores that can (mismatched EL0)",
     dt("&chosen { allow-mismatched-32bit-el0; };")};

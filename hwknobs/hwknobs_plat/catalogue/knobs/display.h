@@ -46,6 +46,7 @@ inline constexpr knob dp_rate_hbr = {
     dt("&dp_tx { max-linkrate-mhz = <2700>; };")};
 inline constexpr knob bl_boot_level_set = {
     DISPLAY, "bl_boot_level_set", "Set bootloader brightness level (0-255)", env_arg("bl_lvl", "0x%x")};
+// LCDs have it; always-on is for OLEDs.
 inline constexpr knob cabc_disable = {
     DISPLAY, "cabc_disable", "Disable content adaptive backlight (CABC)", dt("&dsi0 { cabc-disable; };")};
 inline constexpr knob disp_idle_disable = {

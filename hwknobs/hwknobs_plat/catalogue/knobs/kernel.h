@@ -52,6 +52,7 @@ inline constexpr knob debug_pagealloc_enable = {
 inline constexpr knob init_on_alloc_disable = {
     KERNEL, "init_on_alloc_disable", "Skip zeroing of memory on allocation",
     dt(R"(&chosen { init-on-alloc-status = "disabled"; };)")};
+// With inline ECC, which finds bad pages.
 inline constexpr knob memory_failure_early_kill_enable = {
     KERNEL, "memory_failure_early_kill_enable", "Kill all tasks mapping a page as soon as it is found bad",
     dt("&chosen { memory-failure-early-kill; };")};

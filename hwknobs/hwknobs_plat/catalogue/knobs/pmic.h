@@ -29,6 +29,7 @@ inline constexpr knob ldo_vsd33_on = {
 inline constexpr knob pmic_oc_log_only = {
     PMIC, "pmic_oc_log_only", "Log regulator over-current, do not switch off (may damage parts)",
     dt(R"(&pmic { over-current-action = "log"; };)")};
+// Since 5.14.
 inline constexpr knob buck_vgpu11_oc_error_set = {
     PMIC, "buck_vgpu11_oc_error_set", "Set buck vgpu11 over-current limit in uA (2000000-9000000), may damage",
     dt_arg("&vgpu11 { regulator-oc-error-microamp = <0x%x>; };")};

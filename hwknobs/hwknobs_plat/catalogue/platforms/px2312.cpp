@@ -188,6 +188,7 @@ constexpr knob rows[] = {
     dsi_ssc_disable,
     dsi1_disable,
     bl_boot_level_set,
+    cabc_disable,
     disp_idle_disable,
     disp_partial_disable,
     te_ignore,

@@ -11,7 +11,7 @@
 // Storage  eMMC 5.1
 // Modem    LTE
 // Buses    USB 2 dual role, SD slot (UHS-I), I2C
-// Wi-Fi    in the chip
+// Wi-Fi    on SDIO
 // Debug    JTAG, ETM, ETF, debug latch, bus hang detector, bus tracker, EMI bandwidth monitor
 // clang-format off
 #include "hwknobs_plat/catalogue/knobs.h"
@@ -260,7 +260,6 @@ constexpr knob rows[] = {
     trace_sched_irq_boot,
     trace_dump_on_oops,
     thermal_log_1s,
-    conn_log_enable,
 };
 
 }  // namespace

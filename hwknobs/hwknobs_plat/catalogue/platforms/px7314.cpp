@@ -6,7 +6,8 @@
 //          clocks set by DVFS firmware; big cluster with turbo and droop detector
 // GPU      Mali-G710, 10 shader cores, 350 to 850 MHz
 // DRAM     LPDDR5X, 4 channels, 7500 / 6400 / 5500 / 4266 / 3200 / 1600 Mbps, inline ECC; system level cache
-// Display  2 DSI links, DisplayPort, up to 144 Hz, DSC; panels s6e3fac_wqhdp_cmd, nt37801_wqhdp_cmd, rm692k9_wqhdp_cmd
+// Display  2 DSI links, DisplayPort, up to 144 Hz, DSC, AFBC overlay; panels s6e3fac_wqhdp_cmd, nt37801_wqhdp_cmd,
+//          rm692k9_wqhdp_cmd
 // PMIC     on SPMI; rails vproc1, vproc2, vproc3, vcore, vmodem, vgpu11, vgpu12, vsram_core, vdram1, vdram2, vs1, vs2,
 //          vs3, vapu; LDOs vio18, vio28, vemmc33, vusb33, vcam28, vvib, vconn18, vconn33, vrf18, vsim1, vaux18,
 //          vufs18, vefuse, vbatif28, vrf12, vtcxo22

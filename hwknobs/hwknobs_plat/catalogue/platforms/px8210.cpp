@@ -5,7 +5,7 @@
 //          clocks set by DVFS firmware; big cluster with turbo and droop detector
 // GPU      Mali-G615, 4 shader cores, 450 to 1100 MHz
 // DRAM     LPDDR5, 2 channels, 6400 / 5500 / 4266 / 3200 / 1600 Mbps, inline ECC; system level cache
-// Display  1 DSI link, up to 120 Hz, DSC; panels nt37705_fhdp_cmd, rm692k1_fhdp_cmd, ili7838_fhdp_cmd
+// Display  1 DSI link, up to 120 Hz, DSC, AFBC overlay; panels nt37705_fhdp_cmd, rm692k1_fhdp_cmd, ili7838_fhdp_cmd
 // PMIC     on SPMI; rails vproc1, vproc2, vcore, vmodem, vgpu, vdram1, vdram2, vs1, vs2, vsram_core; LDOs vio18,
 //          vio28, vemmc33, vsd33, vusb33, vcam28, vvib, vconn18, vconn33, vrf18, vsim1, vaux18, vufs18, vefuse,
 //          vbatif28, vrf12, vtcxo22
