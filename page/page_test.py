@@ -38,9 +38,9 @@ class Page(unittest.TestCase):
         cls.device = folder + "/device"
         subprocess.run([ROOT / "device/device", "create", cls.device, "--plat-code", "8314"], check=True)
         options = webdriver.ChromeOptions()
-        for argument in ("headless", "window-size=1280,900", "no-sandbox", "disable-gpu", "disable-quic", "no-first-run",
-                         "disable-sync", "disable-background-networking", "disable-component-update",
-                         f"user-data-dir={folder}/user"):
+        for argument in ("headless", "window-size=1280,900", "no-sandbox", "disable-dev-shm-usage", "disable-gpu",
+                         "disable-quic", "no-first-run", "disable-sync", "disable-background-networking",
+                         "disable-component-update", f"user-data-dir={folder}/user"):
             options.add_argument("--" + argument)
         options.set_capability("goog:loggingPrefs", {"browser": "ALL"})
         cls.browser = webdriver.Chrome(service=webdriver.chrome.service.Service("/usr/bin/chromedriver"), options=options)
