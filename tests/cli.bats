@@ -36,6 +36,8 @@ load device
     [[ ${lines[0]} == "XPR config list group (arch px6210) " ]]
     printf '\0\0\0\0\x10\x62\0\0%4s' '' >"$chosen/atag,chipid"
     expect 1 "$unknown" hwknobs list
+    : >"$chosen/atag,chipid"
+    expect 1 "$unknown" hwknobs list
     rm "$chosen/atag,chipid"
     expect 1 "Fail to open /proc/device-tree/chosen/atag,chipid(2), No such file or directory
 $unknown" hwknobs list

@@ -118,7 +118,7 @@ xml() { hwknobs xmlconfig-set <<<"<hwknobs name='n' platform='px8314'>$1</hwknob
         cmp "$DEV/boot_para" "$DEV/before"
     done < <(rows refused_documents)
     run -1 --separate-stderr hwknobs xmlconfig-set <<<"<hwknobs name='n' platform='px8314'></hwknobs"
-    [[ $stderr == *"parser error"* && $output == $'Config generate (stdin)\nERROR: Could not parse XML file content' ]]
+    [[ $stderr == "noname.xml:2: parser error"* && $output == $'Config generate (stdin)\nERROR: Could not parse XML file content' ]]
     head -c 4096 /dev/zero | tr '\0' ' ' >"$DEV/data/large"
     ends_in 1 $'\t> n < sizeof(buf)' hwknobs xmlconfig-set large
     ends_in 1 "ERROR: Can't open input file -, 2" hwknobs xmlconfig-set -

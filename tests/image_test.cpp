@@ -4,7 +4,7 @@
 
 namespace {
 
-const hwknobs_config first{.desc = "1", .pl_setting = {"b", "1"}, .dt_fragment = "&a { x; };", .name = "first"};
+const hwknobs_config first{.desc = "1", .pl_setting = {"b", ""}, .dt_fragment = "&a { x; };", .name = "first"};
 const hwknobs_config second{.desc = "2", .arg_type = 1, .pl_setting = {"b", "%d"}, .name = "second"};
 const hwknobs_config third{
     .desc = "3", .arg_type = 1, .pl_setting = {"c"}, .dt_fragment = "&c { y = <%d>; };", .name = "third"};
@@ -23,6 +23,7 @@ TEST(Image, UpdatesRemovesAndGenerates) {
     for (const char* const other : {"Second", "secon", "second2", ""}) EXPECT_FALSE(image.item_remove(other)) << other;
     EXPECT_TRUE(image.item_remove("second"));
     EXPECT_EQ(image.items[1].cfg, &third);
+    EXPECT_EQ(image.generate_settings(), (plenv_map{{"b", ""}}));
 
     config_item other_kind(&third, 3);
     other_kind.arg_kind = config_arg_kind::string;
