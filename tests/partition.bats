@@ -95,7 +95,9 @@ DEBUG: start offset 0 end offset 1048577" && $(stat -c %s "$DEV/boot_para") == $
     local none="<<partition>>
   hwknobs partition setting doesn't exist"
     expect 1 "$none" hwknobs status --partition
-    expect 1 "$none" hwknobs --file=none status --partition
+    expect 1 "DEBUG: load filename none
+DEBUG: load: Cannot open file none
+$none" hwknobs --verbose --file=none status --partition
     expect 1 "DEBUG: load filename .
 DEBUG: load: boot para read failed, size mismatch 0
 

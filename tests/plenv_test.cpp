@@ -38,6 +38,8 @@ TEST(Plenv, CapacityLeavesOneZeroByte) {
 TEST(Plenv, Parsing) {
     EXPECT_EQ(hwknobs_plenv_parse(block_of("k=1\0k=2\0"s)), (plenv_map{{"k", "1"}}));
     EXPECT_EQ(hwknobs_plenv_parse(block_of("a=0x1f\0\0b=2\0"s)), (plenv_map{{"a", "0x1f"}}));
+    const std::string long_value(1002, '9');  // which takes in the second signature
+    EXPECT_EQ(hwknobs_plenv_parse(block_of("a=" + long_value)), (plenv_map{{"a", long_value + "ENV_v1"}}));
     const std::pair<std::string, const char*> damaged[] = {
         {"k:v", "plenv corrupted, equal"},
         {"k", "plenv corrupted, equal"},

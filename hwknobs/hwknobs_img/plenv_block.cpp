@@ -53,7 +53,7 @@ plenv_map hwknobs_plenv_parse(const plenv_block& block) {
     if (block.checksum != sum)
         error("plenv checksum failed expect: %x, read: %x", static_cast<std::uint32_t>(block.checksum), sum);
 
-    // Up to the block's end: what runs into the second signature is found damaged there.
+    // Up to the block's end: a key that runs into the second signature is found damaged there, a value takes it in.
     std::string_view rest(reinterpret_cast<const char*>(&block), sizeof(block));
     rest.remove_prefix(offsetof(plenv_block, entries));
     while (!rest.empty()) {
