@@ -24,7 +24,7 @@ TEST(Template, KindValuesAndRendering) {
         {"<%d %d>", kind::int32, {}, -5, "<4294967291 4294967291>"},
         {"%d%%", kind::none, {}, 1, "1%"},  // a percent sign makes it forget its kind
         {"%%%d", kind::int32, {}, 1, "%1"},
-        {"%u 0x%x", kind::uint32, {}, 0xABCU, "2748 0xabc"},
+        {"%u 0x%x", kind::uint32, {}, 0xABCDEF01U, "2882400001 0xabcdef01"},
         {"\"%s \"", kind::string, {}, "a", "\"a\""},  // the byte after a bare %s is swallowed
         {"%s%q", kind::string, {}, "a", "aq"},        // and so makes no conversion
         {"%s[on,off]mv", kind::string, {"on", "off"}, "on", "onmv"},

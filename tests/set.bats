@@ -27,8 +27,8 @@ load device
     run -0 hwknobs set --delete "$id" "$(id_of enable_gpu_acp)"
     [[ ${lines[0]} == "warn: cannot find item enable_gpu_acp to delete" && ${lines[1]} == *"#item=3" ]]
 
-    hwknobs set -m --recovery
-    [[ $(bytes 0x22c 1) == 01 ]]
+    run -0 hwknobs set -m --recovery
+    [[ $(bytes 0x22c 1) == 01 && ${lines[0]} == "enable boot fail recovery mechanism" ]]
     run -0 hwknobs setname -m enable_gpu_acp # the stored flag stays
     [[ $(bytes 0x22c 1) == 01 && ${lines[0]} == *"#item=4" ]]
     run -0 hwknobs set -d -m --no-recovery # the last mode wins
@@ -72,7 +72,7 @@ Skip delete option" hwknobs setname -d kaslr_disable
 @test "an imported setting without overlay holds no items, and can be changed" {
     hwknobs xmlconfig-set <<<"<hwknobs name='n' platform='px8314'><plsetting/></hwknobs>"
     ends_in 0 "config set ok" hwknobs set -m -r
-    [[ $(bytes 0x22c 1) == 01 ]]
+    [[ $(bytes 0x22c 1) == 01 && $(bytes 0x200 8) == "$(hex 'default\0')" ]]
     hwknobs xmlconfig-set <<<"<hwknobs name='n' platform='px8314'><plsetting/></hwknobs>"
     run -0 hwknobs setname -m kaslr_disable
     [[ ${lines[0]} == *"#item=1" ]]

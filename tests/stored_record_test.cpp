@@ -22,6 +22,7 @@ TEST(StoredRecord, LinesAndArguments) {
         {config_arg_kind::int32, "[arg=3]", 3},
         {config_arg_kind::int32, "[arg=010]", 10},
         {config_arg_kind::int32, "[arg=-3]", 0},  // digits only
+        {config_arg_kind::int32, "[arg=1f]", 0},  // decimal ones
         {config_arg_kind::uint32, "[arg=4294967295]", 4294967295U},
         {config_arg_kind::uint32, "[arg=010]", 10U},
         {config_arg_kind::string, "[str=a-b_C]", "a-b_C"},
