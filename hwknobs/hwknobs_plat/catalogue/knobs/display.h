@@ -79,7 +79,6 @@ inline constexpr knob drm_debug_mask_set = {
 
 inline constexpr knob dsi_bist_boot = {
     DISPLAY, "dsi_bist_boot", "Show DSI color bars in the bootloader", env("dsi_bist", "on")};
-inline constexpr knob boot_logo_disable = {DISPLAY, "boot_logo_disable", "Do not show boot logo", env("logo", "off")};
 inline constexpr knob pq_bypass = {
     DISPLAY, "pq_bypass", "Bypass all picture quality blocks", dt("&dispsys { pq-bypass; };")};
 inline constexpr knob dsc_disable = {

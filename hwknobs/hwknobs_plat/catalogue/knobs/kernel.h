@@ -151,6 +151,10 @@ inline constexpr knob pstore_all_reasons = {
 inline constexpr knob cfi_permissive = {
     KERNEL, "cfi_permissive", "Warn on control flow integrity failure instead of panic",
     dt(R"(&chosen { cfi = "warn"; };)")};
+// User builds do not heed it.
+inline constexpr knob selinux_permissive = {
+    KERNEL, "selinux_permissive", "Start SELinux in permissive mode on debug builds (insecure)",
+    env("selinux", "permissive")};
 inline constexpr knob mte_enable = {
     KERNEL, "mte_enable", "Enable memory tagging extension and its tag storage",
     both("mte", "on", R"(&chosen { mte-status = "okay"; };)"), choice{"MTE"}};

@@ -66,6 +66,7 @@ constexpr knob rows[] = {
     cma_size_set,
     zram_disable,
     lowmemorykiller_disable,
+    selinux_permissive,
 
     // Kernel: storage
     emmc_rpm_disable,
@@ -142,7 +143,6 @@ constexpr knob rows[] = {
     disp_idle_disable,
     disp_underrun_red,
     dsi_bist_boot,
-    boot_logo_disable,
 
     // LPM: low power
     suspend_disable,

@@ -67,6 +67,7 @@ constexpr knob rows[] = {
     cma_size_set,
     zram_disable,
     lowmemorykiller_disable,
+    selinux_permissive,
 
     // Kernel: storage
     emmc_rpm_disable,
@@ -174,7 +175,6 @@ constexpr knob rows[] = {
     pq_bypass,
     disp_underrun_red,
     dsi_bist_boot,
-    boot_logo_disable,
 
     // LPM: low power
     suspend_disable,

@@ -74,6 +74,7 @@ constexpr knob rows[] = {
     cma_size_set,
     zram_disable,
     lowmemorykiller_disable,
+    selinux_permissive,
 
     // Kernel: storage
     verity_mode_set,
@@ -188,7 +189,6 @@ constexpr knob rows[] = {
     pq_bypass,
     disp_underrun_red,
     dsi_bist_boot,
-    boot_logo_disable,
 
     // DPSW: power-domain switches
     dpsw_all_on,

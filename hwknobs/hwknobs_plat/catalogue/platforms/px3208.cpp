@@ -75,6 +75,7 @@ constexpr knob rows[] = {
     cma_size_set,
     zram_disable,
     lowmemorykiller_disable,
+    selinux_permissive,
 
     // Kernel: storage
     verity_mode_set,
@@ -206,7 +207,6 @@ constexpr knob rows[] = {
     pq_bypass,
     disp_underrun_red,
     dsi_bist_boot,
-    boot_logo_disable,
 
     // HRT: hard real-time bandwidth
     hrt_check_disable,

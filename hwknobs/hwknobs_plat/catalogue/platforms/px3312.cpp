@@ -76,6 +76,7 @@ constexpr knob rows[] = {
     cma_size_set,
     zram_disable,
     lowmemorykiller_disable,
+    selinux_permissive,
 
     // Kernel: storage
     verity_mode_set,
@@ -218,7 +219,6 @@ constexpr knob rows[] = {
     pq_bypass,
     disp_underrun_red,
     dsi_bist_boot,
-    boot_logo_disable,
 
     // HRT: hard real-time bandwidth
     hrt_check_disable,

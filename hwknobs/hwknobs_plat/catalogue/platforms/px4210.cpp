@@ -76,6 +76,7 @@ constexpr knob rows[] = {
     memory_limit_set,
     cma_size_set,
     zram_disable,
+    selinux_permissive,
 
     // Kernel: storage
     verity_mode_set,
@@ -220,7 +221,6 @@ constexpr knob rows[] = {
     disp_underrun_red,
     disp_underrun_action_set,
     dsi_bist_boot,
-    boot_logo_disable,
 
     // HRT: hard real-time bandwidth
     hrt_check_disable,

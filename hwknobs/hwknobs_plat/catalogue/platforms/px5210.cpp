@@ -77,6 +77,7 @@ constexpr knob rows[] = {
     memory_limit_set,
     cma_size_set,
     zram_disable,
+    selinux_permissive,
 
     // Kernel: storage
     verity_mode_set,
@@ -224,7 +225,6 @@ constexpr knob rows[] = {
     disp_underrun_action_set,
     drm_debug_mask_set<"0x1ff">,
     dsi_bist_boot,
-    boot_logo_disable,
 
     // HRT: hard real-time bandwidth
     hrt_check_disable,

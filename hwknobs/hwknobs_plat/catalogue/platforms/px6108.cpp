@@ -81,6 +81,7 @@ constexpr row rows[] = {
     {56, memory_limit_set},
     {57, cma_size_set},
     {58, zram_disable},
+    {60, selinux_permissive},
 
     // Kernel: storage
     {61, verity_mode_set},
@@ -228,7 +229,6 @@ constexpr row rows[] = {
     {254, disp_underrun_action_set},
     {255, drm_debug_mask_set<"0x3ff">},
     {256, dsi_bist_boot},
-    {257, boot_logo_disable},
 
     // DPSW: power-domain switches
     {269, dpsw_all_on},

@@ -96,6 +96,7 @@ constexpr row rows[] = {
     {57, cma_size_set},
     {58, zram_disable},
     {59, mglru_disable},
+    {60, selinux_permissive},
 
     // Kernel: storage
     {61, verity_mode_set},
@@ -289,7 +290,6 @@ constexpr row rows[] = {
     {254, disp_underrun_action_set},
     {255, drm_debug_mask_set<"0x3ff">},
     {256, dsi_bist_boot},
-    {257, boot_logo_disable},
 
     // HRT: hard real-time bandwidth
     {261, hrt_check_disable},
