@@ -73,10 +73,6 @@ inline constexpr knob pelt_halflife_8ms = {
 // Since 5.3.
 inline constexpr knob uclamp_disable = {
     CPU, "uclamp_disable", "Ignore utilization clamps of tasks and groups", dt("&chosen { sched-uclamp-disable; };")};
-// Since 4.19.
-inline constexpr knob misfit_disable = {
-    CPU, "misfit_disable", "Disable misfit migration of heavy tasks to bigger cores",
-    dt("&chosen { sched-no-misfit; };")};
 
 template <word Cpus>
 inline constexpr knob big_isolate = {

@@ -106,6 +106,10 @@ inline constexpr knob dyndbg_set = {
     dt_arg(R"(&chosen { dyndbg-modules = "%s "; };)")};
 inline constexpr knob initcall_debug_enable = {
     KERNEL, "initcall_debug_enable", "Log duration and result of every initcall", dt("&chosen { initcall-debug; };")};
+// Since 4.19.
+inline constexpr knob deferred_probe_timeout_set = {
+    KERNEL, "deferred_probe_timeout_set", "Set deferred probe timeout in seconds (-1 no limit)",
+    dt_arg("&chosen { deferred-probe-timeout-sec = <%d>; };")};
 // Since 5.7.
 inline constexpr knob fw_devlink_set = {
     KERNEL, "fw_devlink_set", "Set fw_devlink mode (off, permissive, on or rpm)",

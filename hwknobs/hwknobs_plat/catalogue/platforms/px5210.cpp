@@ -70,6 +70,7 @@ constexpr knob rows[] = {
     log_buf_8m,
 
     // Kernel: boot, modules, memory size
+    deferred_probe_timeout_set,
     initcall_debug_enable,
     dyndbg_set,
     clk_ignore_unused,
@@ -105,7 +106,6 @@ constexpr knob rows[] = {
     walt_disable,
     schedtune_disable,
     eas_disable,
-    misfit_disable,
     big_isolate<"6-7">,
     cpuidle_disable,
     core_off_disable,

@@ -72,6 +72,7 @@ constexpr knob rows[] = {
     log_buf_8m,
 
     // Kernel: boot, modules, memory size
+    deferred_probe_timeout_set,
     initcall_debug_enable,
     dyndbg_set,
     clk_ignore_unused,
@@ -108,7 +109,6 @@ constexpr knob rows[] = {
     walt_disable,
     schedtune_disable,
     eas_disable,
-    misfit_disable,
     big_isolate<"4-7">,
     cpuidle_disable,
     core_off_disable,

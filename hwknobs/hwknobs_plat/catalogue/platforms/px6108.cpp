@@ -72,6 +72,7 @@ constexpr row rows[] = {
     {48, log_buf_8m},
 
     // Kernel: boot, modules, memory size
+    {49, deferred_probe_timeout_set},
     {50, initcall_debug_enable},
     {51, dyndbg_set},
     {52, module_blocklist_set},
@@ -105,7 +106,6 @@ constexpr row rows[] = {
     {85, big_cap_set<950, 2200>},
     {88, iowait_boost_disable},
     {89, eas_disable},
-    {90, misfit_disable},
     {91, uclamp_disable},
     {93, big_isolate<"6-7">},
     {94, cpuidle_disable},

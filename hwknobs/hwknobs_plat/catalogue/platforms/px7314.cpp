@@ -85,6 +85,7 @@ constexpr row rows[] = {
     {48, log_buf_8m},
 
     // Kernel: boot, modules, memory size
+    {49, deferred_probe_timeout_set},
     {50, initcall_debug_enable},
     {51, dyndbg_set},
     {52, module_blocklist_set},
@@ -123,7 +124,6 @@ constexpr row rows[] = {
     {87, cpufreq_sw_dvfs},
     {88, iowait_boost_disable},
     {89, eas_disable},
-    {90, misfit_disable},
     {91, uclamp_disable},
     {92, pelt_halflife_8ms},
     {93, big_isolate<"7">},
