@@ -63,9 +63,6 @@ inline constexpr knob eas_disable = {
 inline constexpr knob walt_disable = {
     CPU, "walt_disable", "Use PELT instead of WALT load tracking",
     dt(R"(&chosen { sched-walt-status = "disabled"; };)")};
-// From 4.9 to 4.19.
-inline constexpr knob schedtune_disable = {
-    CPU, "schedtune_disable", "Ignore schedtune boost of task groups", dt("&chosen { schedtune-disable; };")};
 // Since 5.15.
 inline constexpr knob pelt_halflife_8ms = {
     CPU, "pelt_halflife_8ms", "Shorten PELT half-life from 32 ms to 8 ms",

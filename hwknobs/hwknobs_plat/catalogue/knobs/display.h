@@ -46,7 +46,7 @@ inline constexpr knob dp_rate_hbr = {
     dt("&dp_tx { max-linkrate-mhz = <2700>; };")};
 inline constexpr knob bl_boot_level_set = {
     DISPLAY, "bl_boot_level_set", "Set bootloader brightness level (0-255)", env_arg("bl_lvl", "0x%x")};
-// LCDs have it; always-on is for OLEDs.
+// LCDs have it.
 inline constexpr knob cabc_disable = {
     DISPLAY, "cabc_disable", "Disable content adaptive backlight (CABC)", dt("&dsi0 { cabc-disable; };")};
 inline constexpr knob disp_idle_disable = {
@@ -57,8 +57,6 @@ inline constexpr knob disp_partial_disable = {
     dt("&dispsys { partial-update-disable; };")};
 inline constexpr knob te_ignore = {
     DISPLAY, "te_ignore", "Ignore panel TE signal, send frames on a timer", dt(R"(&dsi0 { te-source = "timer"; };)")};
-inline constexpr knob aod_disable = {
-    DISPLAY, "aod_disable", "Disable always-on display", dt("&dispsys { aod-disable; };")};
 inline constexpr knob ovl_single_layer = {
     DISPLAY, "ovl_single_layer", "Offer one overlay layer only, compose the rest on the GPU",
     dt("&ovl0 { max-layers = <1>; };")};

@@ -46,9 +46,6 @@ inline constexpr knob trbe_enable = {
 // Since 4.4.
 inline constexpr knob perf_stat_events = {
     TOOL, "perf_stat_events", "Set Boot Perf Stat Events", env_arg("perf_event", "%s")};
-inline constexpr knob perf_paranoid_set = {
-    TOOL, "perf_paranoid_set", "Set perf_event_paranoid level (-1 to 3, 3 denies all users)",
-    dt_arg("&chosen { perf-event-paranoid = <%d>; };")};
 inline constexpr knob pmu_idle_keep = {
     TOOL, "pmu_idle_keep", "Keep PMU counters running in CPU idle", dt("&pmu { idle-keep-on; };")};
 // Since 4.16.

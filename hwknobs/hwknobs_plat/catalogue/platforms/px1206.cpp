@@ -4,7 +4,7 @@
 //          big: 4 x A53 (cpu4-7), 793 to 1950 MHz
 // GPU      Mali-T860, 2 shader cores, 299 to 700 MHz
 // DRAM     LPDDR3, 1 channel, 1866 / 1600 / 1333 / 1066 Mbps
-// Display  1 DSI link, up to 60 Hz; panels nt35521_wxga_video, otm1906_fhd_video, r63350_fhd_video
+// Display  1 DSI link, up to 60 Hz; panels nt35521_wxga_video, otm1906_fhd_video
 // PMIC     rails vproc, vcore, vgpu, vdram, vpa, vs1; LDOs vio18, vio28, vemmc33, vsd33, vusb33, vcam28, vvib,
 //          vconn18, vconn33
 // Charger  linear, limits fixed
@@ -158,7 +158,6 @@ constexpr knob rows[] = {
     lcm_settings,
     panel<"nt35521_wxga_video">,
     panel<"otm1906_fhd_video">,
-    panel<"r63350_fhd_video">,
     panel_id_check_skip,
     esd_check_disable,
     dsi_lane_rate_set<1500>,

@@ -4,7 +4,7 @@
 //          big: 2 x A72 (cpu4-5), 754 to 2002 MHz
 // GPU      Mali-T760, 4 shader cores, 253 to 650 MHz
 // DRAM     LPDDR3, 2 channels, 1866 / 1600 / 1270 Mbps
-// Display  1 DSI link, up to 60 Hz; panels nt35695_fhd_cmd, nt36672_fhd_video, r63419_wqhd_cmd
+// Display  1 DSI link, up to 60 Hz; panels nt35695_fhd_cmd, nt36672_fhd_video
 // PMIC     rails vproc1, vproc2, vcore, vgpu, vdram, vs1, vs2; LDOs vio18, vio28, vemmc33, vsd33, vusb33, vcam28,
 //          vvib, vconn18, vconn33, vrf18
 // Charger  linear, limits fixed
@@ -161,7 +161,6 @@ constexpr knob rows[] = {
     lcm_settings,
     panel<"nt35695_fhd_cmd">,
     panel<"nt36672_fhd_video">,
-    panel<"r63419_wqhd_cmd">,
     panel_id_check_skip,
     esd_check_disable,
     dsi_lane_rate_set<1500>,

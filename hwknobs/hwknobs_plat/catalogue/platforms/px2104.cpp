@@ -3,7 +3,7 @@
 // CPU      cpu: 4 x A53 (cpu0-3), 299 to 1500 MHz
 // GPU      Mali-T720, 2 shader cores, 350 to 560 MHz
 // DRAM     LPDDR3, 1 channel, 1333 / 1066 / 800 Mbps
-// Display  1 DSI link, up to 60 Hz; panels hx8394_wxga_video, ili9881_wxga_video, jd9365_wxga_video
+// Display  1 DSI link, up to 60 Hz; panels hx8394_wxga_video, ili9881_wxga_video
 // PMIC     rails vproc, vcore, vgpu, vdram, vpa; LDOs vio18, vio28, vemmc33, vsd33, vusb33, vcam28, vvib, vconn18
 // Charger  linear, limits fixed
 // Storage  eMMC 5.0
@@ -155,7 +155,6 @@ constexpr knob rows[] = {
     lcm_settings,
     panel<"hx8394_wxga_video">,
     panel<"ili9881_wxga_video">,
-    panel<"jd9365_wxga_video">,
     panel_id_check_skip,
     esd_check_disable,
     dsi_lane_rate_set<1500>,

@@ -4,7 +4,7 @@
 //          big: 4 x A53 (cpu4-7), 845 to 2106 MHz
 // GPU      Mali-T880, 2 shader cores, 270 to 900 MHz
 // DRAM     LPDDR3, 1 channel, 1866 / 1600 / 1333 Mbps
-// Display  1 DSI link, up to 60 Hz; panels nt36672_fhd_video, ft8716_fhd_video, td4310_fhd_video
+// Display  1 DSI link, up to 60 Hz; panels nt36672_fhd_video, ft8716_fhd_video
 // PMIC     rails vproc, vcore, vgpu, vdram, vpa, vs1, vmodem; LDOs vio18, vio28, vemmc33, vsd33, vusb33, vcam28, vvib,
 //          vconn18, vconn33, vrf18, vsim1, vaux18
 // Charger  linear, limits fixed
@@ -166,7 +166,6 @@ constexpr knob rows[] = {
     lcm_settings,
     panel<"nt36672_fhd_video">,
     panel<"ft8716_fhd_video">,
-    panel<"td4310_fhd_video">,
     panel_id_check_skip,
     esd_check_disable,
     dsi_lane_rate_set<1500>,

@@ -5,7 +5,7 @@
 //          big: 2 x A73 (cpu8-9), 1131 to 2548 MHz
 // GPU      Mali-T880, 4 shader cores, 280 to 850 MHz
 // DRAM     LPDDR4X, 2 channels, 3733 / 3200 / 2400 / 1600 Mbps
-// Display  2 DSI links, up to 60 Hz; panels nt35695_fhd_cmd, s6e3ha6_wqhd_cmd, r63419_wqhd_cmd
+// Display  2 DSI links, up to 60 Hz; panels nt35695_fhd_cmd, s6e3ha6_wqhd_cmd
 // PMIC     rails vproc1, vproc2, vcore, vmodem, vgpu, vdram1, vdram2, vs1, vs2, vsram_core; LDOs vio18, vio28,
 //          vemmc33, vsd33, vusb33, vcam28, vvib, vconn18, vconn33, vrf18, vsim1, vaux18, vufs18
 // Charger  linear, limits fixed
@@ -181,7 +181,6 @@ constexpr knob rows[] = {
     lcm_settings,
     panel<"nt35695_fhd_cmd">,
     panel<"s6e3ha6_wqhd_cmd">,
-    panel<"r63419_wqhd_cmd">,
     panel_id_check_skip,
     esd_check_disable,
     dsi_lane_rate_set<1500>,

@@ -3,7 +3,7 @@
 // CPU      cpu: 4 x A53 (cpu0-3), 575 to 2001 MHz
 // GPU      Mali-G31, 1 shader core, 320 to 650 MHz
 // DRAM     LPDDR3, 1 channel, 1866 / 1600 / 1333 / 1066 Mbps
-// Display  1 DSI link, up to 60 Hz; panels ili9881_hdp_video, nt36525_hdp_video, hx83102_hdp_video
+// Display  1 DSI link, up to 60 Hz; panels ili9881_hdp_video, nt36525_hdp_video
 // PMIC     rails vproc, vcore, vgpu, vdram, vpa, vs1; LDOs vio18, vio28, vemmc33, vsd33, vusb33, vcam28, vvib,
 //          vconn18, vconn33, vrf18, vsim1, vaux18
 // Charger  linear, input limit by register
@@ -98,7 +98,6 @@ constexpr knob rows[] = {
     cpu_cap_set<575, 2001>,
     iowait_boost_disable,
     walt_disable,
-    schedtune_disable,
     cpuidle_disable,
     core_off_disable,
     cluster_off_disable,
@@ -176,7 +175,6 @@ constexpr knob rows[] = {
     lcm_settings,
     panel<"ili9881_hdp_video">,
     panel<"nt36525_hdp_video">,
-    panel<"hx83102_hdp_video">,
     panel_id_check_skip,
     esd_check_disable,
     dsi_lane_rate_set<1500>,
@@ -226,7 +224,6 @@ constexpr knob rows[] = {
     etm_enable<0>,
     etf_enable,
     perf_stat_events,
-    perf_paranoid_set,
     pmu_idle_keep,
     trace_buf_size_set,
     trace_sched_irq_boot,

@@ -4,7 +4,7 @@
 //          big: 4 x A53 (cpu4-7), 975 to 2300 MHz
 // GPU      Mali-G71, 2 shader cores, 320 to 900 MHz
 // DRAM     LPDDR4X, 1 channel, 3200 / 2400 / 1600 Mbps
-// Display  1 DSI link, up to 60 Hz; panels nt36672a_fhdp_video, ft8719_fhdp_video, td4320_fhdp_video
+// Display  1 DSI link, up to 60 Hz; panels nt36672a_fhdp_video, ft8719_fhdp_video
 // PMIC     rails vproc1, vproc2, vcore, vgpu, vdram, vs1, vs2; LDOs vio18, vio28, vemmc33, vsd33, vusb33, vcam28,
 //          vvib, vconn18, vconn33, vrf18, vsim1, vaux18
 // Charger  linear, input limit by register
@@ -100,7 +100,6 @@ constexpr knob rows[] = {
     big_cap_set<975, 2300>,
     iowait_boost_disable,
     walt_disable,
-    schedtune_disable,
     eas_disable,
     big_isolate<"4-7">,
     cpuidle_disable,
@@ -194,7 +193,6 @@ constexpr knob rows[] = {
     lcm_settings,
     panel<"nt36672a_fhdp_video">,
     panel<"ft8719_fhdp_video">,
-    panel<"td4320_fhdp_video">,
     panel_id_check_skip,
     esd_check_disable,
     dsi_lane_rate_set<1500>,
@@ -249,7 +247,6 @@ constexpr knob rows[] = {
     etf_enable,
     etr_enable,
     perf_stat_events,
-    perf_paranoid_set,
     pmu_idle_keep,
     trace_buf_size_set,
     trace_sched_irq_boot,

@@ -4,7 +4,7 @@
 //          big: 4 x A73 (cpu4-7), 884 to 2301 MHz
 // GPU      Mali-G72, 3 shader cores, 320 to 850 MHz
 // DRAM     LPDDR4X, 2 channels, 3733 / 3200 / 2400 / 1600 Mbps
-// Display  2 DSI links, up to 60 Hz; panels nt36672a_fhdp_video, s6e3fc3_fhdp_cmd, td4330_fhdp_cmd
+// Display  2 DSI links, up to 60 Hz; panels nt36672a_fhdp_video, s6e3fc3_fhdp_cmd
 // PMIC     rails vproc1, vproc2, vcore, vmodem, vgpu, vdram1, vdram2, vs1, vs2, vsram_core; LDOs vio18, vio28,
 //          vemmc33, vsd33, vusb33, vcam28, vvib, vconn18, vconn33, vrf18, vsim1, vaux18, vufs18, vefuse, vbatif28,
 //          vrf12, vtcxo22
@@ -102,7 +102,6 @@ constexpr knob rows[] = {
     big_cap_set<884, 2301>,
     iowait_boost_disable,
     walt_disable,
-    schedtune_disable,
     eas_disable,
     big_isolate<"4-7">,
     cpuidle_disable,
@@ -201,7 +200,6 @@ constexpr knob rows[] = {
     lcm_settings,
     panel<"nt36672a_fhdp_video">,
     panel<"s6e3fc3_fhdp_cmd">,
-    panel<"td4330_fhdp_cmd">,
     panel_id_check_skip,
     esd_check_disable,
     dsi_lane_rate_set<1500>,
@@ -211,7 +209,6 @@ constexpr knob rows[] = {
     dsi1_disable,
     bl_boot_level_set,
     cabc_disable,
-    aod_disable,
     disp_idle_disable,
     disp_partial_disable,
     te_ignore,
@@ -261,7 +258,6 @@ constexpr knob rows[] = {
     etf_enable,
     etr_enable,
     perf_stat_events,
-    perf_paranoid_set,
     pmu_idle_keep,
     trace_buf_size_set,
     trace_sched_irq_boot,

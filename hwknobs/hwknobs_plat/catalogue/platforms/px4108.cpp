@@ -4,7 +4,7 @@
 //          big: 4 x A53 (cpu4-7), 825 to 2000 MHz
 // GPU      Mali-G52, 1 shader core, 300 to 680 MHz
 // DRAM     LPDDR4X, 1 channel, 3200 / 2400 / 1600 Mbps
-// Display  1 DSI link, up to 60 Hz; panels ili9882_hdp_video, nt36525b_hdp_video, hx83112_fhdp_video
+// Display  1 DSI link, up to 60 Hz; panels ili9882_hdp_video, nt36525b_hdp_video
 // PMIC     rails vproc1, vproc2, vcore, vgpu, vdram, vs1, vs2; LDOs vio18, vio28, vemmc33, vsd33, vusb33, vcam28,
 //          vvib, vconn18, vconn33, vrf18, vsim1, vaux18
 // Charger  linear, input limit by register
@@ -100,7 +100,6 @@ constexpr knob rows[] = {
     big_cap_set<825, 2000>,
     iowait_boost_disable,
     walt_disable,
-    schedtune_disable,
     eas_disable,
     big_isolate<"4-7">,
     cpuidle_disable,
@@ -194,7 +193,6 @@ constexpr knob rows[] = {
     lcm_settings,
     panel<"ili9882_hdp_video">,
     panel<"nt36525b_hdp_video">,
-    panel<"hx83112_fhdp_video">,
     panel_id_check_skip,
     esd_check_disable,
     dsi_lane_rate_set<2500>,
@@ -250,7 +248,6 @@ constexpr knob rows[] = {
     etm_enable<4>,
     etf_enable,
     perf_stat_events,
-    perf_paranoid_set,
     pmu_idle_keep,
     trace_buf_size_set,
     trace_sched_irq_boot,

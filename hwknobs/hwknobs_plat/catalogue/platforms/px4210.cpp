@@ -4,7 +4,7 @@
 //          big: 2 x A75 (cpu6-7), 925 to 2200 MHz
 // GPU      Mali-G52, 2 shader cores, 300 to 950 MHz
 // DRAM     LPDDR4X, 2 channels, 3733 / 3200 / 2400 / 1600 Mbps
-// Display  1 DSI link, up to 90 Hz; panels nt36672c_fhdp_video, ft8756_fhdp_video, rm692e5_fhdp_cmd
+// Display  1 DSI link, up to 90 Hz; panels nt36672c_fhdp_video, rm692e5_fhdp_cmd
 // PMIC     rails vproc1, vproc2, vcore, vgpu, vdram, vs1, vs2, vmodem; LDOs vio18, vio28, vemmc33, vsd33, vusb33,
 //          vcam28, vvib, vconn18, vconn33, vrf18, vsim1, vaux18, vufs18
 // Charger  switching, current limits by register
@@ -101,7 +101,6 @@ constexpr knob rows[] = {
     big_cap_set<925, 2200>,
     iowait_boost_disable,
     walt_disable,
-    schedtune_disable,
     eas_disable,
     big_isolate<"6-7">,
     cpuidle_disable,
@@ -200,7 +199,6 @@ constexpr knob rows[] = {
     // Display
     lcm_settings,
     panel<"nt36672c_fhdp_video">,
-    panel<"ft8756_fhdp_video">,
     panel<"rm692e5_fhdp_cmd">,
     panel_id_check_skip,
     esd_check_disable,
@@ -212,7 +210,6 @@ constexpr knob rows[] = {
     dsi_ulps_disable,
     bl_boot_level_set,
     cabc_disable,
-    aod_disable,
     disp_idle_disable,
     disp_partial_disable,
     te_ignore,
@@ -268,7 +265,6 @@ constexpr knob rows[] = {
     etf_enable,
     etr_enable,
     perf_stat_events,
-    perf_paranoid_set,
     pmu_idle_keep,
     trace_buf_size_set,
     trace_sched_irq_boot,

@@ -5,7 +5,7 @@
 //          big cluster with turbo
 // GPU      Mali-G76, 4 shader cores, 300 to 800 MHz
 // DRAM     LPDDR4X, 2 channels, 4266 / 3733 / 3200 / 2400 / 1600 Mbps
-// Display  2 DSI links, DisplayPort, up to 90 Hz, DSC; panels nt36672c_fhdp_video, s6e3fc3_fhdp_cmd, rm692e5_fhdp_cmd
+// Display  2 DSI links, DisplayPort, up to 90 Hz, DSC; panels nt36672c_fhdp_video, s6e3fc3_fhdp_cmd
 // PMIC     rails vproc1, vproc2, vcore, vmodem, vgpu, vdram1, vdram2, vs1, vs2, vsram_core; LDOs vio18, vio28,
 //          vemmc33, vsd33, vusb33, vcam28, vvib, vconn18, vconn33, vrf18, vsim1, vaux18, vufs18, vefuse, vbatif28,
 //          vrf12, vtcxo22
@@ -106,7 +106,6 @@ constexpr knob rows[] = {
     big_turbo_disable,
     iowait_boost_disable,
     walt_disable,
-    schedtune_disable,
     eas_disable,
     big_isolate<"6-7">,
     cpuidle_disable,
@@ -208,7 +207,6 @@ constexpr knob rows[] = {
     lcm_settings,
     panel<"nt36672c_fhdp_video">,
     panel<"s6e3fc3_fhdp_cmd">,
-    panel<"rm692e5_fhdp_cmd">,
     panel_id_check_skip,
     esd_check_disable,
     refresh_fix<60>,
@@ -223,7 +221,6 @@ constexpr knob rows[] = {
     dp_rate_hbr,
     bl_boot_level_set,
     cabc_disable,
-    aod_disable,
     disp_idle_disable,
     disp_partial_disable,
     te_ignore,
@@ -279,7 +276,6 @@ constexpr knob rows[] = {
     etf_enable,
     etr_enable,
     perf_stat_events,
-    perf_paranoid_set,
     pmu_idle_keep,
     trace_buf_size_set,
     trace_sched_irq_boot,

@@ -5,7 +5,7 @@
 //          clocks set by DVFS firmware
 // GPU      Mali-G57, 2 shader cores, 350 to 950 MHz
 // DRAM     LPDDR4X, 2 channels, 4266 / 3200 / 2400 / 1600 Mbps
-// Display  1 DSI link, up to 120 Hz; panels nt36672c_fhdp_video, td4375_fhdp_video, rm692c9_fhdp_cmd
+// Display  1 DSI link, up to 120 Hz; panels nt36672c_fhdp_video, rm692c9_fhdp_cmd
 // PMIC     rails vproc1, vproc2, vcore, vgpu, vdram, vs1, vs2, vmodem, vsram_core; LDOs vio18, vio28, vemmc33, vsd33,
 //          vusb33, vcam28, vvib, vconn18, vconn33, vrf18, vsim1, vaux18, vufs18, vefuse, vbatif28, vrf12, vtcxo22
 // Charger  switching, current limits by register
@@ -104,7 +104,6 @@ constexpr knob rows[] = {
     cpufreq_sw_dvfs,
     iowait_boost_disable,
     walt_disable,
-    schedtune_disable,
     eas_disable,
     big_isolate<"6-7">,
     cpuidle_disable,
@@ -203,7 +202,6 @@ constexpr knob rows[] = {
     // Display
     lcm_settings,
     panel<"nt36672c_fhdp_video">,
-    panel<"td4375_fhdp_video">,
     panel<"rm692c9_fhdp_cmd">,
     panel_id_check_skip,
     esd_check_disable,
@@ -215,7 +213,6 @@ constexpr knob rows[] = {
     dsi_ulps_disable,
     bl_boot_level_set,
     cabc_disable,
-    aod_disable,
     disp_idle_disable,
     disp_partial_disable,
     te_ignore,
@@ -275,7 +272,6 @@ constexpr knob rows[] = {
     etf_enable,
     etr_enable,
     perf_stat_events,
-    perf_paranoid_set,
     pmu_idle_keep,
     dsu_pmu_enable,
     trace_buf_size_set,

@@ -279,7 +279,6 @@ constexpr row rows[] = {
     {324, etm_enable<6>},
     {326, etf_enable},
     {329, perf_stat_events},
-    {330, perf_paranoid_set},
     {331, pmu_idle_keep},
     {332, dsu_pmu_enable},
     {334, trace_buf_size_set},

@@ -5,7 +5,7 @@
 //          clocks set by DVFS firmware
 // GPU      Mali-G68, 4 shader cores, 350 to 900 MHz
 // DRAM     LPDDR5, 2 channels, 5500 / 4266 / 3200 / 2400 / 1600 Mbps; system level cache
-// Display  1 DSI link, up to 120 Hz; panels nt36672e_fhdp_video, td4377_fhdp_video, rm692h5_fhdp_cmd
+// Display  1 DSI link, up to 120 Hz; panels nt36672e_fhdp_video, rm692h5_fhdp_cmd
 // PMIC     rails vproc1, vproc2, vcore, vmodem, vgpu, vdram1, vdram2, vs1, vs2; LDOs vio18, vio28, vemmc33, vsd33,
 //          vusb33, vcam28, vvib, vconn18, vconn33, vrf18, vsim1, vaux18, vufs18, vefuse, vbatif28, vrf12, vtcxo22
 // Charger  switching, current limits by register
@@ -227,8 +227,7 @@ constexpr row rows[] = {
     // Display
     {228, lcm_settings},
     {229, panel<"nt36672e_fhdp_video">},
-    {230, panel<"td4377_fhdp_video">},
-    {231, panel<"rm692h5_fhdp_cmd">},
+    {230, panel<"rm692h5_fhdp_cmd">},
     {232, panel_id_check_skip},
     {233, esd_check_disable},
     {234, refresh_fix<60>},
@@ -239,7 +238,6 @@ constexpr row rows[] = {
     {239, dsi_ulps_disable},
     {244, bl_boot_level_set},
     {245, cabc_disable},
-    {246, aod_disable},
     {247, disp_idle_disable},
     {248, disp_partial_disable},
     {249, te_ignore},
@@ -307,7 +305,6 @@ constexpr row rows[] = {
     {326, etf_enable},
     {327, etr_enable},
     {329, perf_stat_events},
-    {330, perf_paranoid_set},
     {331, pmu_idle_keep},
     {332, dsu_pmu_enable},
     {334, trace_buf_size_set},

@@ -6,7 +6,7 @@
 //          clocks set by DVFS firmware; big cluster with turbo and droop detector
 // GPU      Mali-G77, 9 shader cores, 370 to 890 MHz
 // DRAM     LPDDR4X, 4 channels, 4266 / 3733 / 3200 / 2400 / 1600 Mbps; system level cache
-// Display  2 DSI links, DisplayPort, up to 144 Hz, DSC; panels s6e3hc3_wqhdp_cmd, nt37801_wqhdp_cmd, rm692h5_fhdp_cmd
+// Display  2 DSI links, DisplayPort, up to 144 Hz, DSC; panels s6e3hc3_wqhdp_cmd, nt37801_wqhdp_cmd
 // PMIC     on SPMI; rails vproc1, vproc2, vproc3, vcore, vmodem, vgpu11, vgpu12, vsram_core, vdram1, vdram2, vs1, vs2,
 //          vs3, vapu; LDOs vio18, vio28, vemmc33, vusb33, vcam28, vvib, vconn18, vconn33, vrf18, vsim1, vaux18,
 //          vufs18, vefuse, vbatif28, vrf12, vtcxo22
@@ -237,7 +237,6 @@ constexpr row rows[] = {
     {228, lcm_settings},
     {229, panel<"s6e3hc3_wqhdp_cmd">},
     {230, panel<"nt37801_wqhdp_cmd">},
-    {231, panel<"rm692h5_fhdp_cmd">},
     {232, panel_id_check_skip},
     {233, esd_check_disable},
     {234, refresh_fix<60>},
@@ -251,7 +250,6 @@ constexpr row rows[] = {
     {242, dp_disable},
     {243, dp_rate_hbr},
     {244, bl_boot_level_set},
-    {246, aod_disable},
     {247, disp_idle_disable},
     {248, disp_partial_disable},
     {249, te_ignore},
@@ -320,7 +318,6 @@ constexpr row rows[] = {
     {326, etf_enable},
     {327, etr_enable},
     {329, perf_stat_events},
-    {330, perf_paranoid_set},
     {331, pmu_idle_keep},
     {332, dsu_pmu_enable},
     {334, trace_buf_size_set},

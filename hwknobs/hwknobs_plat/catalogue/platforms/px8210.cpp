@@ -5,7 +5,7 @@
 //          clocks set by DVFS firmware; big cluster with turbo and droop detector
 // GPU      Mali-G615, 4 shader cores, 450 to 1100 MHz
 // DRAM     LPDDR5, 2 channels, 6400 / 5500 / 4266 / 3200 / 1600 Mbps, inline ECC; system level cache
-// Display  1 DSI link, up to 120 Hz, DSC, AFBC overlay; panels nt37705_fhdp_cmd, rm692k1_fhdp_cmd, ili7838_fhdp_cmd
+// Display  1 DSI link, up to 120 Hz, DSC, AFBC overlay; panels nt37705_fhdp_cmd, rm692k1_fhdp_cmd
 // PMIC     on SPMI; rails vproc1, vproc2, vcore, vmodem, vgpu, vdram1, vdram2, vs1, vs2, vsram_core; LDOs vio18,
 //          vio28, vemmc33, vsd33, vusb33, vcam28, vvib, vconn18, vconn33, vrf18, vsim1, vaux18, vufs18, vefuse,
 //          vbatif28, vrf12, vtcxo22
@@ -257,7 +257,6 @@ constexpr row rows[] = {
     {228, lcm_settings},
     {229, panel<"nt37705_fhdp_cmd">},
     {230, panel<"rm692k1_fhdp_cmd">},
-    {231, panel<"ili7838_fhdp_cmd">},
     {232, panel_id_check_skip},
     {233, esd_check_disable},
     {234, refresh_fix<60>},
@@ -268,7 +267,6 @@ constexpr row rows[] = {
     {239, dsi_ulps_disable},
     {241, dsc_disable},
     {244, bl_boot_level_set},
-    {246, aod_disable},
     {247, disp_idle_disable},
     {248, disp_partial_disable},
     {249, te_ignore},
@@ -345,7 +343,6 @@ constexpr row rows[] = {
     {327, etr_enable},
     {328, trbe_enable},
     {329, perf_stat_events},
-    {330, perf_paranoid_set},
     {331, pmu_idle_keep},
     {332, dsu_pmu_enable},
     {333, spe_enable},
