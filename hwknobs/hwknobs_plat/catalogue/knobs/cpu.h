@@ -1,4 +1,4 @@
-// Cores, operating points, idle states, scheduler, mitigations, throttling. "Since 5.3." tells the first kernel.
+// Cores, clocks, idle states, scheduler, mitigations, errata, throttling. "Since 5.3." tells the first kernel.
 #pragma once
 
 #include "hwknobs_plat/catalogue/knob.h"
@@ -37,6 +37,12 @@ inline constexpr knob cpu_fix_max = {
 inline constexpr knob cpu_fix_min = {
     CPU, "cpu_fix_min", "Fix all CPUs at their lowest operating point", dt(R"(&cpufreq { fixed-opp = "min"; };)"),
     choice{"operating point of all CPUs"}};
+
+template <word Cluster, unsigned Mhz>
+inline constexpr knob cluster_fix = {
+    CPU, text<"{}_fix_{}mhz", Cluster, Mhz>, text<"Fix {} cluster at {} MHz", Cluster, Mhz>,
+    dt(text<"&cpufreq_{} { fixed-frequency-mhz = <{}>; };", Cluster, Mhz>),
+    choice{text<"{} cluster frequency", Cluster>}};
 
 template <unsigned MinMhz, unsigned MaxMhz>
 inline constexpr knob big_cap_set = {
@@ -151,6 +157,13 @@ inline constexpr knob mitigations_off = {
 inline constexpr knob kpti_disable = {
     CPU, "kpti_disable", "Disable kernel page table isolation (KPTI), insecure",
     dt(R"(&chosen { kpti-status = "disabled"; };)")};
+
+// Workarounds of the secure monitor.
+template <word Cores, unsigned Number, word About>
+inline constexpr knob firmware_erratum_skip = {
+    CPU, text<"erratum_{}_skip", Number>, text<"Skip Cortex-{} erratum {} workaround ({})", Cores, Number, About>,
+    env(text<"noerr_{}", Number>, "on")};
+
 // Where some of the cores run 32-bit programs, as A710 beside A510 and X2.
 inline constexpr knob el0_32bit_mismatch_allow = {
     CPU, "el0_32bit_mismatch_allow", "Run 32-bit programs on the cores that can (mismatched EL0)",

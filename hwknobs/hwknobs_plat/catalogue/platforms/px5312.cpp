@@ -1,22 +1,27 @@
 // px5312: flagship, 8 cores, kernel 4.19.
 //
 // CPU      little: 4 x A55 (cpu0-3), 500 to 2000 MHz
-//          big: 4 x A77 (cpu4-7), 774 to 2600 MHz
+//          mid: 3 x A77 (cpu4-6), 774 to 2600 MHz
+//          big: 1 x A77 (cpu7), 902 to 2840 MHz
 //          clocks set by DVFS firmware; big cluster with turbo and droop detector
 // GPU      Mali-G77, 9 shader cores, 350 to 850 MHz
-// DRAM     LPDDR4X, 4 channels, 4266 / 3733 / 3200 / 2400 / 1600 Mbps
-// Display  2 DSI links, DisplayPort, up to 120 Hz, DSC; panels s6e3hc3_wqhdp_cmd, nt37701_fhdp_cmd, rm692e5_fhdp_cmd
-// PMIC     rails vproc1, vproc2, vcore, vmodem, vgpu11, vgpu12, vsram_core, vdram1, vdram2, vs1, vs2, vs3; LDOs vio18,
-//          vio28, vemmc33, vusb33, vcam28, vvib, vconn18, vconn33, vrf18, vsim1, vaux18, vufs18, vefuse, vbatif28,
-//          vrf12, vtcxo22
+// DRAM     LPDDR5 or LPDDR4X, 4 channels, 5500 (LPDDR5) / 4266 / 3733 / 3200 / 2400 / 1600 Mbps; system level cache
+// Display  2 DSI links, DisplayPort, up to 120 Hz, DSC; panels s6e3hc3_wqhdp_cmd, nt37701_fhdp_cmd, rm692e5_fhdp_cmd,
+//          s6e3hc2_wqhdp_cmd, ana6706_fhdp_cmd, rm692c9_fhdp_cmd
+// Media    video decoder in a power domain of its own
+// PMIC     rails vproc1, vproc2, vproc3, vcore, vmodem, vgpu11, vgpu12, vsram_core, vdram1, vdram2, vs1, vs2, vs3,
+//          vapu; LDOs vio18, vio28, vemmc33, vsd33, vusb33, vcam28, vvib, vconn18, vconn33, vrf18, vsim1, vaux18,
+//          vufs18, vefuse, vbatif28, vrf12, vtcxo22
 // Charger  switching, current limits by register
 // Storage  UFS 3.0
 // Modem    5G
-// Buses    USB 3 dual role, no SD slot, I2C
-// Wi-Fi    in the chip
+// Buses    USB 3 dual role, SD slot (UHS-I), PCIe 3.0, I2C
+// Wi-Fi    on PCIe
 // Sensors  sensor hub
 // Debug    JTAG, ETM, ETF, ETR, debug latch, bus hang detector, bus tracker, EMI bandwidth monitor with latency
-//          histogram, DRAM controller counters
+//          histogram, DRAM controller counters; secure monitor can skip workarounds of A77 errata
+// Fixed    also DRAM at every rate; VCORE at 650, 600 and 550 mV; GPU at 580 and 350 MHz; panel at 90 Hz; each cluster
+//          at its highest, middle and lowest clock
 // clang-format off
 #include "hwknobs_plat/catalogue/knobs.h"
 #include "hwknobs_plat/catalogue/table.h"
@@ -87,10 +92,13 @@ constexpr knob rows[] = {
     ufs_gear_1,
     ufs_hibern8_disable,
     ufs_clock_gating_disable,
+    sd_uhs_disable,
 
     // Kernel: USB, PCIe, I2C, modem
     usb_role_set,
     usb_high_speed,
+    pcie_gen_1,
+    pcie_aspm_disable,
     i2c0_100khz,
     modem_off,
 
@@ -102,13 +110,22 @@ constexpr knob rows[] = {
     cpufreq_disable,
     cpu_fix_max,
     cpu_fix_min,
-    big_cap_set<774, 2600>,
+    cluster_fix<"little", 2000>,
+    cluster_fix<"little", 1400>,
+    cluster_fix<"little", 500>,
+    cluster_fix<"mid", 2600>,
+    cluster_fix<"mid", 1800>,
+    cluster_fix<"mid", 774>,
+    cluster_fix<"big", 2840>,
+    cluster_fix<"big", 2000>,
+    cluster_fix<"big", 902>,
+    big_cap_set<902, 2840>,
     big_turbo_disable,
     cpufreq_sw_dvfs,
     iowait_boost_disable,
     walt_disable,
     eas_disable,
-    big_isolate<"4-7">,
+    big_isolate<"7">,
     cpuidle_disable,
     core_off_disable,
     dsu_off_disable,
@@ -118,30 +135,45 @@ constexpr knob rows[] = {
     cache_ecc_log,
     svs_disable,
     cluster_voltage_offset<"little">,
+    cluster_voltage_offset<"mid">,
     cluster_voltage_offset<"big">,
     droop_disable,
     cpu_throttle_disable,
     cpu_trip_set,
     kpti_disable,
+    firmware_erratum_skip<"A77", 1508412, "device load and PAR read">,
+    firmware_erratum_skip<"A77", 1791578, "atomic stores">,
+    firmware_erratum_skip<"A77", 1800714, "splintered pages">,
+    firmware_erratum_skip<"A77", 1946167, "acquire atomics">,
+    firmware_erratum_skip<"A77", 2356587, "prefetch to store">,
+    firmware_erratum_skip<"A77", 2743100, "DSB before WFI">,
 
     // DRAM
+    dram_fix<5500>,
     dram_fix<4266>,
+    dram_fix<3733>,
+    dram_fix<3200>,
+    dram_fix<2400>,
     dram_fix<1600>,
     dram_dvfs_disable,
     dram_train_full,
     dram_train_renew,
     dram_eye_scan_rx,
     dram_eye_scan_tx,
-    dram_vdd2_plus_20mv<"VDD2">,
-    dram_vdd2_minus_20mv<"VDD2">,
+    dram_vdd2_plus_20mv<"VDD2H (LPDDR4X: VDD2)">,
+    dram_vdd2_minus_20mv<"VDD2H (LPDDR4X: VDD2)">,
     dram_dqs_osc_disable,
+    dram_wck_osc_disable,
+    dram_wck_always_on,
     dram_refresh_2x,
     dram_refresh_all_bank,
-    dram_mr4_override<7>,
+    dram_mr4_override<31>,
+    dram_rfm_disable,
     dram_self_refresh_disable,
     dram_power_down_disable,
     dram_odt_disable,
     dram_dbi_disable,
+    dram_link_ecc_disable,
     dram_rank0_only,
     dram_channel0_only,
     dram_test_full,
@@ -156,10 +188,15 @@ constexpr knob rows[] = {
     bus_hang_enable,
     bus_hang_panic,
     emi_latency_hist,
+    slc_disable,
+    slc_gpu_ways_set,
 
     // VCORE: core rail levels
     vcore_dvfs_disable,
     vcore_fix<725>,
+    vcore_fix<650>,
+    vcore_fix<600>,
+    vcore_fix_550mv,
     vcore_req_log,
     vcore_floor_disp,
     vcore_dram_decouple,
@@ -174,8 +211,10 @@ constexpr knob rows[] = {
     buck_offset<"vgpu12">,
     buck_offset<"vdram1">,
     buck_offset<"vdram2">,
+    buck_offset<"vapu">,
     buck_pwm_all,
     pmic_lp_mode_disable,
+    ldo_vsd33_on,
     pmic_oc_log_only,
     pwrkey_reset_disable,
     pmic_reset_warm,
@@ -191,6 +230,8 @@ constexpr knob rows[] = {
 
     // GPU
     gpu_fix<850>,
+    gpu_fix<580>,
+    gpu_fix<350>,
     gpu_dvfs_disable,
     gpu_throttle_disable,
     gpu_voltage_offset,
@@ -212,9 +253,13 @@ constexpr knob rows[] = {
     panel<"s6e3hc3_wqhdp_cmd">,
     panel<"nt37701_fhdp_cmd">,
     panel<"rm692e5_fhdp_cmd">,
+    panel<"s6e3hc2_wqhdp_cmd">,
+    panel<"ana6706_fhdp_cmd">,
+    panel<"rm692c9_fhdp_cmd">,
     panel_id_check_skip,
     esd_check_disable,
     refresh_fix<60>,
+    refresh_fix<90>,
     refresh_fix<120>,
     dsi_lane_rate_set<2500>,
     dsi_clk_continuous,
@@ -246,6 +291,8 @@ constexpr knob rows[] = {
     pd_ignore_unused,
     power_domain_on<"disp", "display">,
     power_domain_on<"cam", "camera">,
+    power_domain_on<"vdec", "video decoder">,
+    power_domain_on<"apu", "AI processor">,
     dpsw_ack_panic,
 
     // LPM: low power
@@ -280,7 +327,7 @@ constexpr knob rows[] = {
     jtag_pins_enable,
     last_pc_print,
     bus_tracker_enable,
-    etm_enable<4>,
+    etm_enable<7>,
     etf_enable,
     etr_enable,
     perf_stat_events,
