@@ -36,9 +36,10 @@
     platform(px8314, 0x8314)
 // clang-format on
 
-/// How many platforms the tool promises, and rows in all their tables together.
+/// How many platforms the tool promises, and rows in all their tables together. A table of version 0 has 113 (px1104)
+/// to 271 rows (px5312), px0000 aside, one of version 2 has 228 (px6108) to 312 (px8314), with ids up to 344.
 inline constexpr std::size_t promised_platforms = 24;
-inline constexpr std::size_t promised_rows = 4908;
+inline constexpr std::size_t promised_rows = 4923;
 
 #define HWKNOBS_DECLARE_PLATFORM(name, code) extern const hwknobs_plat name;
 HWKNOBS_PLATFORMS(HWKNOBS_DECLARE_PLATFORM)

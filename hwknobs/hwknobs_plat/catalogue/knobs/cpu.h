@@ -158,7 +158,13 @@ inline constexpr knob kpti_disable = {
     CPU, "kpti_disable", "Disable kernel page table isolation (KPTI), insecure",
     dt(R"(&chosen { kpti-status = "disabled"; };)")};
 
-// Workarounds of the secure monitor.
+// A workaround of the kernel.
+template <word Cores, unsigned Number, word About>
+inline constexpr knob erratum_skip = {
+    CPU, text<"erratum_{}_skip", Number>, text<"Skip Cortex-{} erratum {} workaround ({})", Cores, Number, About>,
+    dt(text<"&chosen { skip-erratum-{}; };", Number>)};
+
+// A workaround of the secure monitor.
 template <word Cores, unsigned Number, word About>
 inline constexpr knob firmware_erratum_skip = {
     CPU, text<"erratum_{}_skip", Number>, text<"Skip Cortex-{} erratum {} workaround ({})", Cores, Number, About>,

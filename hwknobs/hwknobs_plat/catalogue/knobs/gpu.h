@@ -67,5 +67,9 @@ inline constexpr knob gpu_counters_enable = {
     dt("&mali { hwcnt-user-access; };")};
 inline constexpr knob gpu_afbc_disable = {
     GPU, "gpu_afbc_disable", "Disable AFBC compression of GPU render targets", dt("&mali { afbc-disable; };")};
+// Since the G720.
+inline constexpr knob gpu_deferred_vertex_disable = {
+    GPU, "gpu_deferred_vertex_disable", "Disable deferred vertex shading of the GPU",
+    dt("&mali { deferred-vertex-shading-disable; };")};
 
 }  // namespace catalogue

@@ -232,7 +232,15 @@ inline constexpr knob emmc_hs400_disable = {
 inline constexpr knob emmc_clk_50mhz = {
     KERNEL, "emmc_clk_50mhz", "Limit eMMC clock to 50 MHz", dt("&mmc0 { max-frequency = <50000000>; };")};
 inline constexpr knob ufs_gear_1 = {
-    KERNEL, "ufs_gear_1", "Limit UFS link to high speed gear 1", dt("&ufshci { limit-hs-gear = <1>; };")};
+    KERNEL, "ufs_gear_1", "Limit UFS link to high speed gear 1", dt("&ufshci { limit-hs-gear = <1>; };"),
+    choice{"UFS gear"}};
+// UFS 4.0 has gear 5 and the queues.
+inline constexpr knob ufs_gear_4 = {
+    KERNEL, "ufs_gear_4", "Limit UFS link to high speed gear 4", dt("&ufshci { limit-hs-gear = <4>; };"),
+    choice{"UFS gear"}};
+inline constexpr knob ufs_mcq_disable = {
+    KERNEL, "ufs_mcq_disable", "Use one UFS queue, disable multi-circular queues (MCQ)",
+    dt(R"(&ufshci { mcq-status = "disabled"; };)")};
 inline constexpr knob ufs_hibern8_disable = {
     KERNEL, "ufs_hibern8_disable", "Disable UFS automatic hibern8",
     dt(R"(&ufshci { auto-hibern8-status = "disabled"; };)")};

@@ -4,7 +4,8 @@
 //          big: 2 x A76 (cpu6-7), 950 to 2200 MHz
 // GPU      Mali-G57, 1 shader core, 320 to 880 MHz
 // DRAM     LPDDR4X, 2 channels, 4266 / 3200 / 2400 / 1600 Mbps
-// Display  1 DSI link, up to 90 Hz; panels ili9883_hdp_video, nt36672e_fhdp_video, ft8725_fhdp_video
+// Display  1 DSI link, up to 90 Hz; panels ili9883_hdp_video, nt36672e_fhdp_video, ft8725_fhdp_video,
+//          td4168_hdp_video
 // PMIC     rails vproc1, vproc2, vcore, vgpu, vdram, vs1, vs2, vmodem; LDOs vio18, vio28, vemmc33, vsd33, vusb33,
 //          vcam28, vvib, vconn18, vconn33, vrf18, vsim1, vaux18, vufs18; lockout and shutdown levels fixed
 // Charger  switching, current limits by register
@@ -229,6 +230,7 @@ constexpr row rows[] = {
     {254, disp_underrun_action_set},
     {255, drm_debug_mask_set<"0x3ff">},
     {256, dsi_bist_boot},
+    {258, panel<"td4168_hdp_video">},
 
     // DPSW: power-domain switches
     {269, dpsw_all_on},

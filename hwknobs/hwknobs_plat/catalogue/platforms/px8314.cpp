@@ -4,21 +4,23 @@
 //          mid: 3 x A720 (cpu4-6), 880 to 2850 MHz
 //          big: 1 x X4 (cpu7), 1020 to 3250 MHz
 //          clocks set by DVFS firmware; big cluster with turbo and droop detector
-// GPU      Mali-G720, 12 shader cores, 530 to 1300 MHz
+// GPU      Mali-G720, 12 shader cores, 530 to 1300 MHz, deferred vertex shading
 // DRAM     LPDDR5X, 4 channels, 9600 / 8533 / 7500 / 6400 / 4266 / 3200 / 1600 Mbps, inline ECC; system level cache
-// Display  2 DSI links, DisplayPort, up to 144 Hz, DSC, AFBC overlay; panels s6e3hc5_wqhdp_cmd, nt37802_wqhdp_cmd,
-//          rm692k9_wqhdp_cmd
+// Display  2 DSI links, DisplayPort, 1 to 144 Hz, DSC, AFBC overlay; panels s6e3hc5_wqhdp_cmd, nt37802_wqhdp_cmd,
+//          rm692k9_wqhdp_cmd, s6e3hc4_wqhdp_cmd, nt37705_fhdp_cmd, ili7838_fhdp_cmd
 // PMIC     on SPMI; rails vproc1, vproc2, vproc3, vcore, vmodem, vgpu11, vgpu12, vsram_core, vdram1, vdram2, vs1, vs2,
 //          vs3, vapu; LDOs vio18, vio28, vemmc33, vusb33, vcam28, vvib, vconn18, vconn33, vrf18, vsim1, vaux18,
 //          vufs18, vefuse, vbatif28, vrf12, vtcxo22
 // Charger  switching, current limits by register
-// Storage  UFS 4.0
+// Storage  UFS 4.0 with multi-circular queues
 // Modem    5G
 // Buses    USB 3 dual role, no SD slot, PCIe 3.0, I2C
 // Wi-Fi    on PCIe
 // Sensors  sensor hub
 // Debug    JTAG, ETE, TRBE, SPE, ETF, ETR, debug latch, bus hang detector, bus tracker, EMI bandwidth monitor with
-//          latency histogram, DRAM controller counters
+//          latency histogram, DRAM controller counters; kernel and secure monitor can skip workarounds of errata
+// Fixed    also DRAM at 8533 Mbps, the highest rate of LPDDR5X before, and at 3200, the highest with WCK at twice the
+//          clock; GPU at 800 MHz; panel at 1 Hz
 // clang-format off
 #include "hwknobs_plat/catalogue/knobs.h"
 #include "hwknobs_plat/catalogue/table.h"
@@ -105,6 +107,7 @@ constexpr row rows[] = {
     {66, ufs_hibern8_disable},
     {67, ufs_clock_gating_disable},
     {68, ufs_write_booster_disable},
+    {70, ufs_gear_4},
 
     // Kernel: USB, PCIe, I2C, modem
     {71, usb_role_set},
@@ -153,6 +156,7 @@ constexpr row rows[] = {
     {116, amu_frequency_invariance_disable},
 
     // DRAM
+    {117, dram_fix<8533>},
     {118, dram_fix<9600>},
     {119, dram_fix<1600>},
     {120, dram_max<8533>},
@@ -179,6 +183,7 @@ constexpr row rows[] = {
     {142, dram_rank0_only},
     {143, dram_channel0_only},
     {144, dram_test_full},
+    {145, dram_fix<3200>},
 
     // EMI: memory controller, buses, system cache
     {146, emi_bwmon_enable},
@@ -236,6 +241,7 @@ constexpr row rows[] = {
     {199, batt_throttle_disable},
 
     // GPU
+    {200, gpu_fix<800>},
     {201, gpu_fix<1300>},
     {202, gpu_fix<530>},
     {203, gpu_dvfs_disable},
@@ -260,8 +266,10 @@ constexpr row rows[] = {
     {223, gpu_exception_mask_set},
     {224, gpu_counters_enable},
     {225, gpu_afbc_disable},
+    {226, gpu_deferred_vertex_disable},
 
     // Display
+    {227, refresh_fix<1>},
     {228, lcm_settings},
     {229, panel<"s6e3hc5_wqhdp_cmd">},
     {230, panel<"nt37802_wqhdp_cmd">},
@@ -289,6 +297,9 @@ constexpr row rows[] = {
     {254, disp_underrun_action_set},
     {255, drm_debug_mask_set<"0x3ff">},
     {256, dsi_bist_boot},
+    {258, panel<"s6e3hc4_wqhdp_cmd">},
+    {259, panel<"nt37705_fhdp_cmd">},
+    {260, panel<"ili7838_fhdp_cmd">},
 
     // HRT: hard real-time bandwidth
     {261, hrt_check_disable},
@@ -365,6 +376,13 @@ constexpr row rows[] = {
     {337, thermal_log_1s},
     {338, conn_log_enable},
     {339, sensorhub_log_enable},
+
+    // Above all groups: errata of its cores, UFS queues
+    {340, erratum_skip<"A520", 2966298, "unprivileged load">},
+    {341, firmware_erratum_skip<"A720", 2926083, "SPE">},
+    {342, erratum_skip<"X4", 3194386, "SSBS barrier">},
+    {343, firmware_erratum_skip<"X4", 2740089, "DSB before WFI">},
+    {344, ufs_mcq_disable},
 };
 
 }  // namespace
