@@ -90,7 +90,7 @@ xml() { hwknobs xmlconfig-set <<<"<hwknobs name='n' platform='px8314'>$1</hwknob
 
 @test "what documents may hold" {
     compiler record <<<'cat >source; printf blob'
-    xml '<plsetting><item key="a" value="1"/><x key="x" value="y"/></plsetting><?dtbo x?>
+    xml '<plsetting><item key="a" value="1"/><items key="x" value="y"/></plsetting><?dtbo x?>
          <dtbo>first</dtbo><plsetting><item key="a" value="2"/><item key="B.c" value="x y"/></plsetting>
          <dtbo><![CDATA[/* <&> */]]><x/></dtbo>'
     [[ $(head -c 18 "$DEV/data/source") == "/* <&> */"$'\n'"&chosen " ]]

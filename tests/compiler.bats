@@ -30,8 +30,8 @@ DEBUG: /dts-v1/;"* ]]
     run -1 device run "${strace[@]}" hwknobs setname kaslr_disable
     [[ $output == *"why"*"ERROR: DTC './dtc' failed (status 4)" ]]
     hwknobs xmlconfig-set <<<"<hwknobs name='n' platform='px8314'/>"
-    compiler dtc <<<'cat >/dev/null; seq 20000' # more than 64 KiB
-    ends_in 1 "== dts (size: 108894) ==" timeout 20 "$device_script" run "$DEV" \
+    compiler dtc <<<'cat >/dev/null; seq 40000' # more than 64 KiB
+    ends_in 1 "== dts (size: 228894) ==" timeout 20 "$device_script" run "$DEV" \
         env ASAN_OPTIONS=detect_leaks=0 strace -o /dev/null -e inject=fcntl:error=EPERM:when=5 hwknobs status --partition
 }
 

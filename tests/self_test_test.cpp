@@ -30,6 +30,8 @@ TEST(SelfTest, Rows) {
         {[](auto& r) { r.desc = nullptr; }, "DEBUG: [id=2 name=b] config description is empty.\n"},
         {[](auto& r) { r.pl_setting.value = nullptr; },
          "DEBUG: [id=2 name=b] pl_setting check fails: has key:1, has value:0\n"},
+        {[](auto& r) { r.pl_setting.key = nullptr; },
+         "DEBUG: [id=2 name=b] pl_setting check fails: has key:0, has value:1\n"},
         {[](auto& r) { r = {.id = 1}; },
          "DEBUG: [id=1] config item name is empty.\nDEBUG: [id=1 name=] ID is used.\n"
          "DEBUG: [id=1 name=] config description is empty.\n"

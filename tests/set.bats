@@ -119,6 +119,7 @@ Skip delete option" hwknobs setname -d kaslr_disable
     run -1 hwknobs status --partition
     [[ ${lines[0]} == *" failure recovery 1" && ${lines[2]} == "  perf_event=cycles" ]]
     device reboot
+    echo -n late >"$DEV/proc/device-tree/chosen/hwknobs/item9" # behind a gap
     run -0 hwknobs status --system --partition
     [[ $(no_timestamp <<<"$output" | no_id) == "<<system>> hwknobs 'set' command at TIME
    plat px8314 boot recovery true
