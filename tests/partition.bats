@@ -56,6 +56,8 @@ expected_image() {
     [[ ${lines[0]} == *"failure recovery 1" && ${lines[-1]} == "   Activate  kmemleak_disable("* ]]
     hwknobs --file=out xmlconfig-set <<<"<hwknobs name='other' platform='px8314'/>"
     [[ $(tail -c +513 "$DEV/data/out" | head -c 6 | tr '\0' .) == other. && $(stat -c %s "$DEV/data/out") == $((0x20e00)) ]]
+    hwknobs --file=bare xmlconfig-set <<<"<hwknobs name='other' platform='px8314'/>"
+    [[ $(stat -c %s "$DEV/data/bare") == $((0xa00)) ]]
     is_blank
     expect 1 "ERROR: Cannot read file out dt blob (No data available)" \
         device run sh -c 'truncate -s 5000 out; hwknobs --file=out status --partition'
