@@ -18,9 +18,9 @@
 // Wi-Fi    on PCIe
 // Sensors  sensor hub
 // Debug    JTAG, ETE, TRBE, SPE, ETF, ETR, debug latch, bus hang detector, bus tracker, EMI bandwidth monitor with
-//          latency histogram, DRAM controller counters; kernel and secure monitor can skip workarounds of errata
+//          latency histogram, DRAM controller counters; kernel can skip workarounds of errata
 // Fixed    also DRAM at 8533 Mbps, the highest rate of LPDDR5X before, and at 3200, the highest with WCK at twice the
-//          clock; GPU at 800 MHz; panel at 1 Hz
+//          clock; VCORE at 650 mV; GPU at 800 MHz; panel at 1 and 30 Hz
 // clang-format off
 #include "hwknobs_plat/catalogue/knobs.h"
 #include "hwknobs_plat/catalogue/table.h"
@@ -108,52 +108,55 @@ constexpr row rows[] = {
     {67, ufs_clock_gating_disable},
     {68, ufs_write_booster_disable},
     {70, ufs_gear_4},
+    {71, ufs_mcq_disable},
 
     // Kernel: USB, PCIe, I2C, modem
-    {71, usb_role_set},
-    {72, usb_high_speed},
-    {73, pcie_gen_1},
-    {74, pcie_aspm_disable},
-    {75, i2c0_100khz},
-    {76, modem_off},
+    {72, usb_role_set},
+    {73, usb_high_speed},
+    {74, pcie_gen_1},
+    {75, pcie_aspm_disable},
+    {76, i2c0_100khz},
+    {77, modem_off},
 
     // CPU
-    {79, boot_core_only},
-    {80, cpu_start_mask_set<"0xff">},
-    {81, big_off},
-    {82, cpufreq_disable},
-    {83, cpu_fix_max},
-    {84, cpu_fix_min},
-    {85, big_cap_set<1020, 3250>},
-    {86, big_turbo_disable},
-    {87, cpufreq_sw_dvfs},
-    {88, iowait_boost_disable},
-    {89, eas_disable},
-    {91, uclamp_disable},
-    {92, pelt_halflife_8ms},
-    {93, big_isolate<"7">},
-    {94, cpuidle_disable},
-    {95, idle_governor_set},
-    {96, core_off_disable},
-    {97, dsu_off_disable},
-    {98, l3_fix_max},
-    {99, l3_powerdown_disable},
-    {100, mpam_disable},
-    {101, mpam_little_l3_portion_limit_half},
-    {102, cpu_clock_gating_disable},
-    {103, cache_ecc_log},
-    {104, svs_disable},
-    {105, cluster_voltage_offset<"little">},
-    {106, cluster_voltage_offset<"mid">},
-    {107, cluster_voltage_offset<"big">},
-    {108, droop_disable},
-    {109, cpu_throttle_disable},
-    {110, cpu_trip_set},
-    {111, mitigations_off},
-    {113, pauth_disable},
-    {114, bti_disable},
-    {115, sve_disable},
-    {116, amu_frequency_invariance_disable},
+    {78, boot_core_only},
+    {79, cpu_start_mask_set<"0xff">},
+    {80, big_off},
+    {81, cpufreq_disable},
+    {82, cpu_fix_max},
+    {83, cpu_fix_min},
+    {84, big_cap_set<1020, 3250>},
+    {85, big_turbo_disable},
+    {86, cpufreq_sw_dvfs},
+    {87, iowait_boost_disable},
+    {88, eas_disable},
+    {89, uclamp_disable},
+    {90, pelt_halflife_8ms},
+    {91, big_isolate<"7">},
+    {92, cpuidle_disable},
+    {93, idle_governor_set},
+    {94, core_off_disable},
+    {95, dsu_off_disable},
+    {96, l3_fix_max},
+    {97, l3_powerdown_disable},
+    {98, mpam_disable},
+    {99, mpam_little_l3_portion_limit_half},
+    {100, cpu_clock_gating_disable},
+    {101, cache_ecc_log},
+    {102, svs_disable},
+    {103, cluster_voltage_offset<"little">},
+    {104, cluster_voltage_offset<"mid">},
+    {105, cluster_voltage_offset<"big">},
+    {106, droop_disable},
+    {107, cpu_throttle_disable},
+    {108, cpu_trip_set},
+    {109, mitigations_off},
+    {111, pauth_disable},
+    {112, bti_disable},
+    {113, sve_disable},
+    {114, amu_frequency_invariance_disable},
+    {115, erratum_skip<"A520", 2966298, "unprivileged load">},
+    {116, erratum_skip<"X4", 3194386, "SSBS barrier">},
 
     // DRAM
     {117, dram_fix<8533>},
@@ -207,6 +210,7 @@ constexpr row rows[] = {
     {163, vcore_floor_disp},
     {164, vcore_dram_decouple},
     {165, vcore_timeout_panic},
+    {166, vcore_fix<650>},
 
     // PMIC and charging
     {167, buck_plus_25mv<"vcore">},
@@ -287,6 +291,7 @@ constexpr row rows[] = {
     {242, dp_disable},
     {243, dp_rate_hbr},
     {244, bl_boot_level_set},
+    {246, refresh_fix<30>},
     {247, disp_idle_disable},
     {248, disp_partial_disable},
     {249, te_ignore},
@@ -374,15 +379,8 @@ constexpr row rows[] = {
     {335, trace_sched_irq_boot},
     {336, trace_dump_on_oops},
     {337, thermal_log_1s},
-    {338, conn_log_enable},
-    {339, sensorhub_log_enable},
-
-    // Above all groups: errata of its cores, UFS queues
-    {340, erratum_skip<"A520", 2966298, "unprivileged load">},
-    {341, firmware_erratum_skip<"A720", 2926083, "SPE">},
-    {342, erratum_skip<"X4", 3194386, "SSBS barrier">},
-    {343, firmware_erratum_skip<"X4", 2740089, "DSB before WFI">},
-    {344, ufs_mcq_disable},
+    {343, conn_log_enable},
+    {344, sensorhub_log_enable},
 };
 
 }  // namespace
