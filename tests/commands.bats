@@ -90,11 +90,11 @@ xml() { hwknobs xmlconfig-set <<<"<hwknobs name='n' platform='px8314'>$1</hwknob
 
 @test "what documents may hold" {
     compiler record <<<'cat >source; printf blob'
-    xml '<plsetting><item key="a" value="1"/><items key="x" value="y"/></plsetting><?dtbo x?>
+    xml '<plsetting><item key="a" value="1"/><item key="c" value="3"/><items key="x" value="y"/></plsetting><?dtbo x?>
          <dtbo>first</dtbo><plsetting><item key="a" value="2"/><item key="B.c" value="x y"/></plsetting>
          <dtbo><![CDATA[/* <&> */]]><x/></dtbo>'
     [[ $(head -c 18 "$DEV/data/source") == "/* <&> */"$'\n'"&chosen " ]]
-    [[ $(bytes 0x408 14) == "$(hex 'B.c=x y\0a=2\0\0\0')" && $(bytes 0x200 2) == 6e00 ]]
+    [[ $(bytes 0x408 18) == "$(hex 'B.c=x y\0a=2\0c=3\0\0\0')" && $(bytes 0x200 2) == 6e00 ]]
     # No source, no blob.
     run -0 xml '<plsetting><item key="x"/><item value="y"/><item key="k" value=""/></plsetting>'
     [[ ${lines[2]} == "WARN: skip null value 0x"*", (nil)" && ${lines[3]} == "WARN: skip null value (nil), 0x"* ]]

@@ -51,6 +51,7 @@ TEST(Template, Faults) {
         {"%s[]", parse_error + "allowed string value size = 0"},
         {"%s[a,b] %s[b]", parse_error + "duplicate entry b"},
         {"%s[on-1]", parse_error + "ill-form string formatter"},
+        {"%s[on-", parse_error + "ill-form string formatter"},
         {"%s[on", "config knob format string end unexpectedly(state 3)"},
         {"100%", "config knob format string end unexpectedly(state 1)"},
     };

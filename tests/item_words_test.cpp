@@ -48,6 +48,7 @@ TEST(ItemWords, Refused) {
         {{id_of(unsigned_row), "a-1"}, "argument type mismatch, expect uint32"},
         {{id_of(unsigned_row), "uabc"}, "not a number abc"},
         {{id_of(unsigned_row), "u4294967296"}, "config number out of range (uint32) 4294967296"},
+        {{id_of(unsigned_row), "u99999999999999999999"}, "config number out of range (uint32) 99999999999999999999"},
         {{id_of(unsigned_row), "u-1"}, "config number out of range (uint32) -1"},
         {{id_of(unsigned_row), "s1"}, "Invalid argument '1' or argument type mismatch(expect uint32)"},
         {{id_of(free_row), "a1"}, "argument type mismatch, expect string"},

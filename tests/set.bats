@@ -92,6 +92,14 @@ Skip delete option" hwknobs setname -d kaslr_disable
     hwknobs --verbose xmlconfig-set >"$DEV/imported" <<<"<hwknobs name='n' platform='px8314'/>"
     wait
     grep -q waiting "$DEV/cleared" && grep -q waiting "$DEV/imported"
+    exec 8>"$DEV/data/out" # held by another program
+    flock 8
+    hwknobs --verbose --file=out setname kaslr_disable >"$DEV/written" 8>&- &
+    timeout 10 bash -c 'until grep -q "^DEBUG: out: another" "$1"; do sleep 0.05; done' - "$DEV/written"
+    [[ ! -s $DEV/data/out ]]
+    exec 8>&-
+    wait $!
+    [[ -s $DEV/data/out ]]
 }
 
 @test "every row without an argument at once, and long strings, come back whole" {
@@ -114,6 +122,7 @@ Skip delete option" hwknobs setname -d kaslr_disable
 }
 
 @test "a device boots with what was set" {
+    local id
     expect 0 "<<system>> hwknobs setting does not take effect" hwknobs status
     hwknobs setname -r enable_gpu_acp perf_stat_events scycles
     run -1 hwknobs status --partition
@@ -126,6 +135,8 @@ Skip delete option" hwknobs setname -d kaslr_disable
    Activate  enable_gpu_acp(ID) Enable GPU ACP
    Activate  perf_stat_events(ID)[str=cycles] Set Boot Perf Stat Events" ]]
     [[ $(fdtget "$DEV/merged.dtb" /mali system-coherency) == 0 && $(<"$DEV/plenv") == perf_event=cycles ]]
+    for id in {0..1024}; do echo -n "$id" >"$DEV/proc/device-tree/chosen/hwknobs/item$id"; done
+    ends_in 0 "   1023" hwknobs status
     hwknobs clear
     device reboot
     expect 0 "<<system>> hwknobs setting does not take effect" hwknobs status
