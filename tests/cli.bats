@@ -56,6 +56,9 @@ DEBUG: plat px1206 hw_code 1206
 @test "platforms and groups" {
     local groups
     [[ $(hwknobs plat-list | head -n 3) == $'Support platform\n\tpx0000\n\tpx1104' ]]
+    echo ffff >"$DEV/proc/chip/hw_code" # is compared with all of them
+    diff <(hwknobs plat-list | sed -n 's/^\t//p') <(hwknobs --verbose list | sed -n 's/^DEBUG: plat \(.*\) hw_code.*/\1/p')
+    echo 8314 >"$DEV/proc/chip/hw_code"
     expect 0 "This platfrom does not support groups." hwknobs --plat=px8314 --plat px0000 list-group
     expect 0 "$(<"$data/groups.txt")" hwknobs list-group
     run -0 --separate-stderr hwknobs list --bad word -g KERNEL --group GPU --all

@@ -3,6 +3,8 @@
 #include "fatal.h"
 #include "rows.h"
 
+#include <cerrno>
+
 namespace {
 
 using words = std::vector<std::string>;
@@ -10,6 +12,7 @@ using words = std::vector<std::string>;
 std::vector<config_item> parse(words input, const char* plat = plat_with_ids, bool by_name = false,
                                bool take_args = true) {
     std::vector<char*> argv;
+    errno = EIO;  // left by an earlier call
     for (std::string& word : input) argv.push_back(word.data());
     return parse_item_set(static_cast<int>(argv.size()), argv.data(), plat, take_args, by_name);
 }

@@ -137,6 +137,8 @@ Skip delete option" hwknobs setname -d kaslr_disable
     [[ $(fdtget "$DEV/merged.dtb" /mali system-coherency) == 0 && $(<"$DEV/plenv") == perf_event=cycles ]]
     for id in {0..1024}; do echo -n "$id" >"$DEV/proc/device-tree/chosen/hwknobs/item$id"; done
     ends_in 0 "   1023" hwknobs status
+    rm "$DEV/proc/device-tree/chosen/hwknobs/item1" && mkdir "$DEV/proc/device-tree/chosen/hwknobs/item1"
+    ends_in 0 "DEBUG: dt_read_string: Can't read hwknobs command entry" hwknobs --verbose status
     hwknobs clear
     device reboot
     expect 0 "<<system>> hwknobs setting does not take effect" hwknobs status

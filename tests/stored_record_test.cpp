@@ -5,10 +5,13 @@
 
 #include <fmt/format.h>
 
+#include <cerrno>
+
 namespace {
 
 std::vector<config_item> read_back(const std::string& dts) {
     std::vector<config_item> items{config_item(&row_with(config_arg_kind::int32), 1)};  // an old one, to be dropped
+    errno = ENOMEM;                                                                     // left by an earlier call
     save_hwknobs_effect_status(plat_with_ids, dts.c_str(), items);
     return items;
 }
