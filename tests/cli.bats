@@ -34,7 +34,7 @@ load device
     printf '\0\0\0\0\x10\x62\x01\0%16s' '' >"$chosen/atag,chipid" # longer than 20 bytes
     run -0 hwknobs list-group
     [[ ${lines[0]} == "XPR config list group (arch px6210) " ]]
-    printf '\0\0\0\0\x10\x62\0\0%4s' '' >"$chosen/atag,chipid"
+    printf '\0\0\0\0\x10\x62\0\0%11s' '' >"$chosen/atag,chipid"
     expect 1 "$unknown" hwknobs list
     : >"$chosen/atag,chipid"
     expect 1 "$unknown" hwknobs list

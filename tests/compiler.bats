@@ -53,10 +53,13 @@ DEBUG: /dts-v1/;"* ]]
     [[ $(grep -c '' <<<"$output") == 6 && $output == *$'==================\nERROR: DTC \'\' failed (status 1)' ]]
 }
 
-@test "the child starts with default signals and without the partition, the tool survives an ignored SIGCHLD" {
+@test "the child starts with default signals and no file of the tool, the tool survives an ignored SIGCHLD" {
     local caller=(env --ignore-signal={CHLD,PIPE,INT,XFSZ} --block-signal=USR1)
     # This shell keeps the signals that it was started with, others reset some.
     compiler dtc bash <<<'grep -E "^Sig(Ign|Blk)" /proc/self/status >signals; readlink /proc/self/fd/* >files; exec dtc "$@"'
+    echo "<hwknobs name='n' platform='px8314'><dtbo>/dts-v1/; /plugin/;</dtbo></hwknobs>" >"$DEV/data/document"
+    ends_in 0 "config generate ok" hwknobs xmlconfig-set document
+    [[ -s $DEV/data/files && $(<"$DEV/data/files") != *document* ]]
     run -0 device run "${caller[@]}" hwknobs setname kaslr_disable
     [[ ! -s $DEV/data/signals || $(tr -d '\n' <"$DEV/data/signals") =~ ^SigBlk:.0+SigIgn:.0+$ ]]
     [[ $(<"$DEV/data/files") != *boot_para* ]]

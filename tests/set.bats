@@ -89,7 +89,7 @@ Skip delete option" hwknobs setname -d kaslr_disable
     hwknobs setname kaslr_disable &
     until [[ -e $DEV/data/started ]]; do sleep 0.05; done
     hwknobs --verbose clear >"$DEV/cleared" &
-    hwknobs --verbose xmlconfig-set >"$DEV/imported" <<<"<hwknobs name='n' platform='px8314'/>"
+    hwknobs --verbose --file=other xmlconfig-set >"$DEV/imported" <<<"<hwknobs name='n' platform='px8314'/>"
     wait
     grep -q waiting "$DEV/cleared" && grep -q waiting "$DEV/imported"
     exec 8>"$DEV/data/out" # held by another program
