@@ -6,7 +6,7 @@ load device
     local usage words said errors
     usage=$(<"$data/usage.txt")
     expect 1 "$usage" hwknobs --verbose --plat px0000
-    expect 1 "$usage" hwknobs --help plat-list
+    expect 1 "${usage//usage hwknobs/usage x/y}" device run bash -c 'exec -a x/y hwknobs --help plat-list'
     expect 1 "ERROR: Unknown command '$(printf 'x%.0s' {1..238})" hwknobs "$(printf 'x%.0s' {1..239})" # cut
     # shellcheck disable=SC2034 # errors is for expect
     while IFS='|' read -r words said errors; do

@@ -78,6 +78,7 @@ booted_tree() {
     run -1 hwknobs status
     [[ ${lines[2]} == $'\t> command && date && platform && failure_recovery' ]]
     echo -n true >"$DEV/proc/device-tree/chosen/hwknobs/boot_failure_recovery"
+    echo -n x >"$DEV/proc/device-tree/chosen/hwknobs/item0" # is shown of a "set" alone
     run -0 hwknobs status
     [[ ${#lines[@]} == 2 && ${lines[1]} == "   plat px8314 boot recovery true" ]]
     echo -n other >"$DEV/proc/device-tree/chosen/hwknobs/command"
