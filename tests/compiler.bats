@@ -54,7 +54,7 @@ DEBUG: /dts-v1/;"* ]]
 }
 
 @test "the child starts with default signals and no file of the tool, the tool survives an ignored SIGCHLD" {
-    local caller=(env --ignore-signal={CHLD,PIPE,INT,XFSZ} --block-signal=USR1)
+    local caller=(env --ignore-signal={HUP,RTMAX,CHLD,PIPE,INT,XFSZ} --block-signal=USR1)
     # This shell keeps the signals that it was started with, others reset some.
     compiler dtc bash <<<'grep -E "^Sig(Ign|Blk)" /proc/self/status >signals; readlink /proc/self/fd/* >files; exec dtc "$@"'
     echo "<hwknobs name='n' platform='px8314'><dtbo>/dts-v1/; /plugin/;</dtbo></hwknobs>" >"$DEV/data/document"

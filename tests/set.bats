@@ -24,10 +24,10 @@ load device
     names=$(sed -n 's/^\tActivate  \([^(]*\).*/\1/p' <<<"$output" | xargs)
     [[ $names == "kaslr_disable lcm_settings kmemleak_disable perf_stat_events" ]]
     [[ $output == *"lcm_settings($id)[arg=9]"* ]]
-    run -0 hwknobs set --delete "$id" "$(id_of enable_gpu_acp)"
+    run -0 hwknobs set --delete "$(id_of enable_gpu_acp)" "$id"
     [[ ${lines[0]} == "warn: cannot find item enable_gpu_acp to delete" && ${lines[1]} == *"#item=3" ]]
 
-    run -0 hwknobs set -m --recovery
+    run -0 hwknobs set -m --no-recovery --recovery
     [[ $(bytes 0x22c 1) == 01 && ${lines[0]} == "enable boot fail recovery mechanism" ]]
     run -0 hwknobs setname -m enable_gpu_acp # the stored flag stays
     [[ $(bytes 0x22c 1) == 01 && ${lines[0]} == *"#item=4" ]]
@@ -91,7 +91,7 @@ Skip delete option" hwknobs setname -d kaslr_disable
     hwknobs --verbose clear >"$DEV/cleared" &
     hwknobs --verbose --file=other xmlconfig-set >"$DEV/imported" <<<"<hwknobs name='n' platform='px8314'/>"
     wait
-    grep -q waiting "$DEV/cleared" && grep -q waiting "$DEV/imported"
+    [[ $(<"$DEV/cleared") == *waiting*partimage_clear* && $(<"$DEV/imported") == *waiting*partimage_clear* ]]
     exec 8>"$DEV/data/out" # held by another program
     flock 8
     hwknobs --verbose --file=out setname kaslr_disable >"$DEV/written" 8>&- &

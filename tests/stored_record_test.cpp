@@ -10,8 +10,9 @@
 namespace {
 
 std::vector<config_item> read_back(const std::string& dts) {
-    std::vector<config_item> items{config_item(&row_with(config_arg_kind::int32), 1)};  // an old one, to be dropped
-    errno = ENOMEM;                                                                     // left by an earlier call
+    errno = ENOMEM;  // left by an earlier call
+    // An old item, to be dropped.
+    std::vector<config_item> items{config_item(&row_with(config_arg_kind::int32), 1)};
     save_hwknobs_effect_status(plat_with_ids, dts.c_str(), items);
     return items;
 }
