@@ -149,7 +149,7 @@ Skip delete option" hwknobs setname -d kaslr_disable
     hwknobs set 1 7
     device reboot
     [[ $(fdtget "$DEV/merged.dtb" /SUSPEND status) == test-overide-1 && $(sort "$DEV/plenv" | xargs) == "AA=BB test_level=high" ]]
-    run -0 bash -c "'$device_script' run '$DEV' hwknobs status --partition | sed -n '2000{p;q}'"
+    run -141 bash -o pipefail -c "timeout 20 '$device_script' run '$DEV' hwknobs status --partition | sed -n '2000{p;q}'"
     [[ $output == "warn: unknown option id, skip" ]]
     expect 1 $'Error in file hwknobs/hwknobs_img:919\n\tfunction: void config_item::format_validate()
 \t> check_string == NULL' hwknobs set 4 a1
